@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "host/kxHostExport.h"
+
+#include <QString>
+#include <QVector>
+
+/// The host's register of keyboard shortcuts, for display and for finding clashes. It handles no
+/// key: a module acts on its own keys. GUI thread only.
+class KXHOST_EXPORT kxShortcut
+{
+public:
+    /// One registered key.
+    struct Entry
+    {
+        QString category;    ///< translated name of the module
+        int key;             ///< Qt::Key
+        int modifiers;       ///< Qt::KeyboardModifiers
+        QString description; ///< translated name of the command
+    };
+
+    kxShortcut() = delete;
+
+    /// Makes a key known. The same key may be registered more than once, even in one category.
+    /// Called by modules while they start.
+    static void addKey(const QString &category, int key, int modifiers, const QString &description);
+
+    /// The text of a key with its modifiers: as the platform shows it in menus, or, with `portable`,
+    /// in the form for files, which is the same on every platform. Empty when `key` is 0.
+    static QString convertKey(int key, int modifiers, bool portable);
+
+    /// All registered keys, in the order of their registration. For the host.
+    static QVector<Entry> registeredKeys();
+
+    /// Forgets all registered keys. For the host, between two runs of its modules.
+    static void clear();
+};

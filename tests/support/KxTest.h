@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "tests/support/MessageGuard.h"
+
+#include <QObject>
+#include <QtTest>
+
+#include <memory>
+
+/// Base of every test class: fails a test function that leaves a message it did not announce, or a
+/// top-level widget alive. A class with an init() or cleanup() of its own calls the base's.
+class KxTest : public QObject
+{
+    Q_OBJECT
+
+protected:
+    /// Announces one Qt message that matches `pattern`, for the running test function.
+    void expectMessage(const char *pattern);
+
+protected Q_SLOTS:
+    virtual void init();
+    virtual void cleanup();
+
+private:
+    std::unique_ptr<MessageGuard> m_guard;
+};
+
+/// Runs the test class T as a program with widgets in the host's style settings.
+template<class T>
+int runKxTest(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    app.setApplicationName(QStringLiteral("overlay-editor-test"));
+    T test;
+    QTEST_SET_MAIN_SOURCE_PATH
+    return QTest::qExec(&test, argc, argv);
+}
+
+#define KX_TEST_MAIN(T)                                                                            \
+    int main(int argc, char **argv)                                                                \
+    {                                                                                              \
+        return runKxTest<T>(argc, argv);                                                           \
+    }
