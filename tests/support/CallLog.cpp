@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "tests/support/CallLog.h"
+
+#include <numeric>
+
+void CallLog::add(const QString &line)
+{
+    ++m_counts[line.section(QLatin1Char(' '), 0, 0)];
+    if (m_keepsLines)
+        m_lines.append(line);
+}
+
+QStringList CallLog::take()
+{
+    const QStringList lines = m_lines;
+    clear();
+    return lines;
+}
+
+QStringList CallLog::linesOf(const QStringList &operations) const
+{
+    QStringList wanted;
+    for (const QString &line : m_lines) {
+        if (operations.contains(line.section(QLatin1Char(' '), 0, 0)))
+            wanted.append(line);
+    }
+    return wanted;
+}
+
+int CallLog::total() const
+{
+    return std::accumulate(m_counts.cbegin(), m_counts.cend(), 0);
+}
+
+void CallLog::clear()
+{
+    m_lines.clear();
+    m_counts.clear();
+}
