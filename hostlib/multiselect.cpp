@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "hostlib/multiselect.h"
+
+#include <QStyle>
+#include <QVariant>
+#include <QWidget>
+
+static const char s_multiselect[] = "multiselect";
+
+static void mark(QWidget *widget, const QVariant &marking)
+{
+    if (widget->property(s_multiselect) == marking)
+        return;
+    widget->setProperty(s_multiselect, marking);
+    widget->style()->unpolish(widget);
+    widget->style()->polish(widget);
+    widget->update();
+}
+
+bool hostlib::isMultiselect(const QWidget *widget)
+{
+    return widget->property(s_multiselect).toBool();
+}
+
+void hostlib::handOnMultiselect(const QWidget *outer, std::initializer_list<QWidget *> inner)
+{
+    const QVariant marking = isMultiselect(outer) ? QVariant(true) : QVariant();
+    for (QWidget *widget : inner)
+        mark(widget, marking);
+}
