@@ -20,6 +20,7 @@ set(KX_TEST_ENVIRONMENT
     "QT_LOGGING_RULES=qt.qpa.*=false"
     "LC_ALL=C.UTF-8"
     "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0"
+    "ASAN_OPTIONS=detect_leaks=1"
     "UBSAN_OPTIONS=print_stacktrace=1")
 
 function(kx_add_test name)

@@ -114,7 +114,8 @@ void tst_kxKernelServiceFactory::shouldReportANullService()
     m_factory->registerService<kxControllerService>(nullptr);
     StandardError output;
     QCOMPARE(m_factory->getService<kxControllerService>(), nullptr);
-    QCOMPARE(output.text(), "kxKernelServiceFactory: service '" + nameOfController() + "' is NULL!\n");
+    QCOMPARE(output.text(),
+             "kxKernelServiceFactory: service '" + nameOfController() + "' is NULL!\n");
 }
 
 void tst_kxKernelServiceFactory::shouldGiveNullSilentlyForAnObjectOfAnotherClass()

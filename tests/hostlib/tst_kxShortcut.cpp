@@ -42,10 +42,10 @@ void tst_kxShortcut::shouldGiveTheTextOfAKey_data()
     QTest::addColumn<int>("key");
     QTest::addColumn<int>("modifiers");
     QTest::addColumn<QString>("text");
-    QTest::newRow("letter") << int(Qt::Key_G) << int(Qt::ControlModifier) << QStringLiteral("Ctrl+G");
-    QTest::newRow("two modifiers")
-        << int(Qt::Key_A) << int(Qt::ControlModifier | Qt::ShiftModifier)
-        << QStringLiteral("Ctrl+Shift+A");
+    QTest::newRow("letter") << int(Qt::Key_G) << int(Qt::ControlModifier)
+                            << QStringLiteral("Ctrl+G");
+    QTest::newRow("two modifiers") << int(Qt::Key_A) << int(Qt::ControlModifier | Qt::ShiftModifier)
+                                   << QStringLiteral("Ctrl+Shift+A");
     QTest::newRow("none") << 0 << int(Qt::ControlModifier) << QString();
 }
 

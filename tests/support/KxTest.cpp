@@ -24,9 +24,9 @@ void KxTest::cleanup()
     m_guard.reset();
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (const QWidget *window : windows) {
-        faults.append(QStringLiteral("left alive: %1 \"%2\"")
-                          .arg(QLatin1String(window->metaObject()->className()),
-                               window->objectName()));
+        faults.append(
+            QStringLiteral("left alive: %1 \"%2\"")
+                .arg(QLatin1String(window->metaObject()->className()), window->objectName()));
     }
     if (!faults.isEmpty())
         QFAIL(qPrintable(faults.join(QLatin1Char('\n'))));
