@@ -18,6 +18,7 @@ namespace notation {
 
 enum class Kind { Overlay, Group, Switch };
 
+/// One node of the line, with what stands in its brackets.
 struct Node
 {
     QString name;
