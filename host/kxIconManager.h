@@ -24,7 +24,11 @@ public:
     static QIcon getIcon(const std::string &name, const std::string &variant);
 
     /// The icon `name` at the size of a tree row, at the scale of the primary screen. A null pixmap
-    /// for an unknown name (with one warning) and where no window system is there. Called by
-    /// modules for every row of a tree.
+    /// for an unknown name (with one warning) and under an application without a window system.
+    /// Called by modules for every row of a tree.
     static QPixmap get(const char *name, const kxIconOptions &options);
+
+    /// How many icons were drawn from their vectors since the program started: what is asked for
+    /// again comes from memory. For measuring.
+    static int renderingCount();
 };

@@ -7,11 +7,17 @@
 
 #include <QProxyStyle>
 
+class QPainter;
 class QPalette;
 
 /// The host's dark widget style. It also draws every control that carries the dynamic property
-/// "multiselect" as mixed: one whose selected nodes disagree on the value that it shows. Created by
-/// the host and given to the application, which owns it. GUI thread only.
+/// "multiselect" as mixed: one whose selected nodes disagree on the value that it shows. The old
+/// value of such a control is hidden, its field is hatched behind an amber edge, and assistive
+/// tools read "several values" as its description. A field that has the focus shows its old text
+/// dimmed, so that it can be edited; of a group of radio buttons all are mixed when one is.
+///
+/// Whoever sets or removes the property lets the style unpolish and polish the control and updates
+/// it. Created by the host and given to the application, which owns it. GUI thread only.
 class KXHOST_EXPORT kxStyle : public QProxyStyle
 {
     Q_OBJECT
@@ -20,14 +26,51 @@ public:
     kxStyle();
     ~kxStyle() override;
 
-    /// The colour of the name of a node that does not show; names of nodes that do are opaque white.
+    /// The colour of the name of a node that does not show; names of nodes that do are opaque
+    /// white.
     static QColor getInactiveNodeColor();
 
     /// The colour that marks what is selected, focused or live.
     static QColor getAccentColor();
 
+    /// The colour of the edge and the hatching of mixed controls.
+    static QColor getMixedColor();
+
     /// True when `widget` carries the marking "multiselect"; false for null.
     static bool isMultiselect(const QWidget *widget);
 
+    /// The words that stand in for the value of a mixed control, translated.
+    static QString mixedText();
+
+    /// Fills `rect` with the look of a mixed field, for widgets that draw themselves.
+    static void drawMixedField(QPainter *painter, const QRect &rect, bool enabled);
+
+    /// Writes mixedText() into `rect`, or a dash where the words do not fit.
+    static void drawMixedText(QPainter *painter, const QRect &rect, bool enabled);
+
     QPalette standardPalette() const override;
+
+    using QProxyStyle::polish;
+    using QProxyStyle::unpolish;
+    void polish(QPalette &palette) override;
+    void polish(QWidget *widget) override;
+    void unpolish(QWidget *widget) override;
+
+    int pixelMetric(PixelMetric metric, const QStyleOption *option,
+                    const QWidget *widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *returnData) const override;
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget) const override;
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                            QPainter *painter, const QWidget *widget) const override;
+
+    /// Draws the contents of marked text editors, whose viewport no style primitive covers.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    bool m_drawingBeneath = false;
 };
