@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QWidget>
+
+namespace viewer {
+
+/// What stands behind the overlays where no 3D view can be had: the studio's wall and floor, painted.
+/// Owned by the view area.
+class Backdrop : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit Backdrop(QWidget *parent = nullptr);
+
+Q_SIGNALS:
+    /// One frame is painted.
+    void painted();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+};
+
+} // namespace viewer

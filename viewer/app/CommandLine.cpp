@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "viewer/app/CommandLine.h"
+
+#include "viewer/app/ModuleLoader.h"
+
+#include <QCommandLineParser>
+
+namespace viewer {
+
+CommandLine::CommandLine(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(tr("Shows a scene and its overlays, and hosts modules."));
+    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption version = parser.addVersionOption();
+    const QCommandLineOption plugin(QStringLiteral("plugin"),
+                                    tr("Load this module instead of the editor; may be repeated."),
+                                    tr("file"));
+    const QCommandLineOption noGl(QStringLiteral("no-gl"),
+                                  tr("Paint a backdrop instead of the 3D view."));
+    const QCommandLineOption picture(
+        QStringLiteral("screenshot"),
+        tr("Save a picture of the window once all is shown, and quit."), tr("file"));
+    parser.addOptions({plugin, noGl, picture});
+    parser.addPositionalArgument(tr("scene"), tr("Scene file to open."), tr("[scene.json]"));
+
+    if (!parser.parse(arguments)) {
+        fail(parser.errorText());
+    } else if (parser.isSet(help)) {
+        outcome = Outcome::Answer;
+        text = parser.helpText();
+    } else if (parser.isSet(version)) {
+        outcome = Outcome::Answer;
+        text = QStringLiteral("%1 %2\n").arg(QCoreApplication::applicationName(),
+                                             QCoreApplication::applicationVersion());
+    } else if (parser.positionalArguments().size() > 1) {
+        fail(tr("Only one scene can be opened."));
+    } else if (parser.isSet(picture) && parser.value(picture).isEmpty()) {
+        fail(tr("The option --screenshot needs the name of a file."));
+    }
+    scene = parser.positionalArguments().value(0);
+    plugins = parser.values(plugin);
+    if (plugins.isEmpty())
+        plugins.append(ModuleLoader::defaultPlugin());
+    screenshot = parser.value(picture);
+    withoutGl = parser.isSet(noGl);
+}
+
+void CommandLine::fail(const QString &reason)
+{
+    outcome = Outcome::Fault;
+    text = QStringLiteral("%1: %2\n%3\n")
+               .arg(QCoreApplication::applicationName(), reason,
+                    tr("\"%1 --help\" lists all options.").arg(QCoreApplication::applicationName()));
+}
+
+} // namespace viewer

@@ -1,0 +1,177 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "viewer/app/MainWindow.h"
+
+#include "viewer/app/ModulePanels.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QSettings>
+#include <QStatusBar>
+
+namespace viewer {
+
+namespace {
+
+constexpr QSize DefaultSize(1600, 1000);
+
+// Raised when docks get other names, so that an old layout is not applied to them.
+constexpr int LayoutVersion = 1;
+
+QString geometryKey()
+{
+    return QStringLiteral("mainWindow/geometry");
+}
+
+QString stateKey()
+{
+    return QStringLiteral("mainWindow/state");
+}
+
+} // namespace
+
+MainWindow::MainWindow(ViewArea::Background background)
+    : m_viewArea(new ViewArea(background, this))
+{
+    setObjectName(QStringLiteral("mainWindow"));
+    setCentralWidget(m_viewArea);
+    setDockNestingEnabled(true);
+    createFileMenu();
+    createViewMenu();
+    createModulesMenu();
+    createHelpMenu();
+    createStatusBar();
+    setScenePath(QString());
+    resize(DefaultSize);
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::setScenePath(const QString &path)
+{
+    m_scenePath = path;
+    const QString application = QApplication::applicationDisplayName();
+    setWindowTitle(path.isEmpty()
+                       ? application
+                       : tr("%1[*] - %2").arg(QFileInfo(path).fileName(), application));
+}
+
+void MainWindow::notify(Severity severity, const QString &text)
+{
+    m_viewArea->notices()->add(severity, text);
+    if (severity != Severity::Info)
+        statusBar()->showMessage(text.section(QLatin1Char('\n'), 0, 0));
+}
+
+void MainWindow::restoreLayout(const QSettings &settings)
+{
+    const bool placed = restoreGeometry(settings.value(geometryKey()).toByteArray());
+    if (!placed)
+        resize(DefaultSize);
+    m_wantsDefaultSizes = !restoreState(settings.value(stateKey()).toByteArray(), LayoutVersion);
+}
+
+void MainWindow::saveLayout(QSettings *settings) const
+{
+    settings->setValue(geometryKey(), saveGeometry());
+    settings->setValue(stateKey(), saveState(LayoutVersion));
+}
+
+void MainWindow::showEvent(QShowEvent *event)
+{
+    QMainWindow::showEvent(event);
+    // Docks take a size only once the window has its own.
+    if (m_wantsDefaultSizes)
+        m_panels->applyDefaultSizes();
+    m_wantsDefaultSizes = false;
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    emit closing();
+    QMainWindow::closeEvent(event);
+}
+
+void MainWindow::createFileMenu()
+{
+    QMenu *menu = menuBar()->addMenu(tr("&File"));
+    QAction *open = menu->addAction(tr("&Open Scene…"), this, &MainWindow::chooseScene);
+    open->setShortcut(QKeySequence::Open);
+    open->setObjectName(QStringLiteral("openScene"));
+    menu->addSeparator();
+    QAction *quit = menu->addAction(tr("&Quit"), this, &QWidget::close);
+    quit->setShortcut(Qt::CTRL | Qt::Key_Q);
+    quit->setMenuRole(QAction::QuitRole);
+}
+
+void MainWindow::createViewMenu()
+{
+    QMenu *menu = menuBar()->addMenu(tr("&View"));
+    QAction *reset = menu->addAction(tr("&Reset View"), m_viewArea, &ViewArea::resetView);
+    reset->setObjectName(QStringLiteral("resetView"));
+    reset->setShortcut(Qt::Key_Home);
+    // In lists and text fields the key has a meaning of its own.
+    reset->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    m_viewArea->addAction(reset);
+    QAction *full = menu->addAction(tr("&Full Screen"));
+    full->setCheckable(true);
+    full->setShortcut(Qt::Key_F11);
+    connect(full, &QAction::toggled, this, &MainWindow::toggleFullScreen);
+}
+
+void MainWindow::createModulesMenu()
+{
+    QMenu *menu = menuBar()->addMenu(tr("&Modules"));
+    menu->setObjectName(QStringLiteral("modules"));
+    menu->setEnabled(false);
+    m_panels = new ModulePanels(this, menu);
+}
+
+void MainWindow::createHelpMenu()
+{
+    QMenu *menu = menuBar()->addMenu(tr("&Help"));
+    QAction *about = menu->addAction(tr("&About %1").arg(QApplication::applicationDisplayName()), this,
+                                     &MainWindow::showAbout);
+    about->setMenuRole(QAction::AboutRole);
+}
+
+void MainWindow::createStatusBar()
+{
+    m_backgroundLabel = new QLabel(m_viewArea->backgroundText(), this);
+    m_backgroundLabel->setObjectName(QStringLiteral("backgroundLabel"));
+    statusBar()->addPermanentWidget(m_backgroundLabel);
+    connect(m_viewArea, &ViewArea::backgroundChanged, this,
+            [this] { m_backgroundLabel->setText(m_viewArea->backgroundText()); });
+}
+
+void MainWindow::chooseScene()
+{
+    const QString path = QFileDialog::getOpenFileName(
+        this, tr("Open Scene"), QFileInfo(m_scenePath).absolutePath(),
+        tr("Scenes (*.json);;All files (*)"));
+    if (!path.isEmpty())
+        emit openRequested(path);
+}
+
+void MainWindow::toggleFullScreen(bool on)
+{
+    setWindowState(on ? windowState() | Qt::WindowFullScreen
+                      : windowState() & ~Qt::WindowFullScreen);
+}
+
+void MainWindow::showAbout()
+{
+    QMessageBox::about(this, tr("About %1").arg(QApplication::applicationDisplayName()),
+                       tr("<h3>%1 %2</h3><p>Shows a scene and its text and image overlays, and hosts "
+                          "the modules that edit them.</p>")
+                           .arg(QApplication::applicationDisplayName(),
+                                QApplication::applicationVersion()));
+}
+
+} // namespace viewer

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "viewer/app/NoticeArea.h"
+#include "viewer/app/ViewArea.h"
+
+#include <QMainWindow>
+
+class QLabel;
+class QSettings;
+
+namespace viewer {
+
+class ModulePanels;
+
+/// The viewer's window: menus, the view in the middle, module panels around it, a status bar. It
+/// shows what it is told and asks for scenes by a signal; loading is the session's work. Owned by
+/// the session.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(ViewArea::Background background);
+    ~MainWindow() override;
+
+    ViewArea *viewArea() const { return m_viewArea; }
+    ModulePanels *modulePanels() const { return m_panels; }
+
+    /// Names the open scene in the title; an empty path for none.
+    void setScenePath(const QString &path);
+
+    /// Tells the user something without blocking; errors and warnings also stand in the status bar.
+    void notify(Severity severity, const QString &text);
+
+    /// Takes the place, size and panel layout that an earlier run left in `settings`, or the default
+    /// ones. To be called once all modules are loaded, before the window is shown.
+    void restoreLayout(const QSettings &settings);
+
+    /// Writes what restoreLayout() reads.
+    void saveLayout(QSettings *settings) const;
+
+Q_SIGNALS:
+    /// The user chose a scene file.
+    void openRequested(const QString &path);
+
+    /// The user closed the window; its layout is still that of the screen.
+    void closing();
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void createFileMenu();
+    void createViewMenu();
+    void createModulesMenu();
+    void createHelpMenu();
+    void createStatusBar();
+    void chooseScene();
+    void toggleFullScreen(bool on);
+    void showAbout();
+
+    ViewArea *m_viewArea;
+    ModulePanels *m_panels = nullptr;
+    QLabel *m_backgroundLabel = nullptr;
+    QString m_scenePath;
+    bool m_wantsDefaultSizes = false;
+};
+
+} // namespace viewer

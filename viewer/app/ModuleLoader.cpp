@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "viewer/app/ModuleLoader.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLibrary>
+
+#include <exception>
+
+namespace viewer {
+
+QString ModuleLoader::defaultPlugin()
+{
+    return QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("overlayeditor.so"));
+}
+
+QString ModuleLoader::load(const QString &file)
+{
+    // A bare name would be looked up among the system's libraries.
+    const QString path = QFileInfo(file).absoluteFilePath();
+    const QString shown = QDir::toNativeSeparators(path);
+    if (!QFileInfo(path).isFile())
+        return tr("The module \"%1\" is missing: there is no such file.").arg(shown);
+    // Local binding is the default; without an owner the library is never unloaded.
+    QLibrary library(path);
+    if (!library.load())
+        return tr("The module \"%1\" cannot be loaded: %2").arg(shown, library.errorString());
+    const auto entry = library.resolve("initPlugin");
+    if (!entry)
+        return tr("\"%1\" is not a module: it has no entry \"initPlugin\".").arg(shown);
+    try {
+        entry();
+    } catch (const std::exception &problem) {
+        return tr("The module \"%1\" failed to start: %2")
+            .arg(shown, QString::fromLocal8Bit(problem.what()));
+    }
+    return QString();
+}
+
+} // namespace viewer

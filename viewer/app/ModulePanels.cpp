@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "viewer/app/ModulePanels.h"
+
+#include <QCoreApplication>
+#include <QDockWidget>
+#include <QMainWindow>
+#include <QMenu>
+
+namespace viewer {
+
+namespace {
+
+constexpr int UsualWidth = 460;
+constexpr char HelpIdProperty[] = "moduleHelpId";
+
+// Layouts are remembered by object name.
+QString dockName(const QString &module)
+{
+    return QStringLiteral("module/") + module;
+}
+
+QString categoryName(const QString &category)
+{
+    return QStringLiteral("category/") + category;
+}
+
+} // namespace
+
+ModulePanels::ModulePanels(QMainWindow *window, QMenu *menu)
+    : QObject(window)
+    , m_window(window)
+    , m_menu(menu)
+{
+}
+
+bool ModulePanels::add(const ModuleInfo &info, QWidget *content)
+{
+    if (dock(info.name))
+        return false;
+    QDockWidget *panel = makeDock(info, content);
+    m_window->addDockWidget(Qt::RightDockWidgetArea, panel);
+    QAction *toggle = panel->toggleViewAction();
+    // A checkable entry that also has an icon hides its check mark.
+    toggle->setIconVisibleInMenu(false);
+    connect(toggle, &QAction::triggered, panel, &QWidget::raise);
+    categoryMenu(info.category)->addAction(toggle);
+    m_menu->setEnabled(true);
+    return true;
+}
+
+QDockWidget *ModulePanels::dock(const QString &name) const
+{
+    return m_window->findChild<QDockWidget *>(dockName(name), Qt::FindDirectChildrenOnly);
+}
+
+QString ModulePanels::helpId(const QString &name) const
+{
+    const QDockWidget *panel = dock(name);
+    return panel ? panel->property(HelpIdProperty).toString() : QString();
+}
+
+void ModulePanels::applyDefaultSizes()
+{
+    const QList<QDockWidget *> docks =
+        m_window->findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QDockWidget *panel : docks)
+        m_window->resizeDocks({panel}, {UsualWidth}, Qt::Horizontal);
+}
+
+QMenu *ModulePanels::categoryMenu(const QString &category)
+{
+    const QString name = categoryName(category);
+    if (auto *known = m_menu->findChild<QMenu *>(name, Qt::FindDirectChildrenOnly))
+        return known;
+    QMenu *menu =
+        m_menu->addMenu(QCoreApplication::translate("ModuleCategory", category.toUtf8().constData()));
+    menu->setObjectName(name);
+    return menu;
+}
+
+QDockWidget *ModulePanels::makeDock(const ModuleInfo &info, QWidget *content)
+{
+    auto *panel = new QDockWidget(info.title, m_window);
+    panel->setObjectName(dockName(info.name));
+    panel->setWindowIcon(info.icon);
+    panel->toggleViewAction()->setIcon(info.icon);
+    panel->setProperty(HelpIdProperty, info.helpId);
+    // A window of its own becomes part of the dock; its class may hide QWidget::show().
+    panel->setWidget(content);
+    content->setVisible(true);
+    return panel;
+}
+
+} // namespace viewer

@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QStringList>
+#include <QWidget>
+
+class QVBoxLayout;
+
+namespace viewer {
+
+/// How urgent a notice is; decides its colour and mark.
+enum class Severity { Info, Warning, Error };
+
+/// One message to the user with a button that dismisses it. Its text can be selected and copied.
+/// Owned by the notice area.
+class Notice : public QWidget
+{
+    Q_OBJECT
+
+public:
+    Notice(Severity severity, const QString &text, QWidget *parent = nullptr);
+
+    QString text() const { return m_text; }
+    Severity severity() const { return m_severity; }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    const Severity m_severity;
+    const QString m_text;
+};
+
+/// The stack of messages that floats over the top of the view. Nothing in it blocks the user: each
+/// message stays until it is dismissed, cleared, or pushed out by newer ones. Owned by the view area.
+class NoticeArea : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit NoticeArea(QWidget *parent = nullptr);
+
+    /// Shows a message at the top. A text that stands there already is not shown twice.
+    void add(Severity severity, const QString &text);
+
+    /// Takes all messages away.
+    void clear();
+
+    /// The texts that stand there, newest first.
+    QStringList texts() const;
+
+    /// Fits the area to the top of its parent, as wide as the parent allows.
+    void place();
+
+private:
+    QList<Notice *> notices() const;
+    void dismiss(Notice *notice);
+
+    QVBoxLayout *m_layout;
+};
+
+} // namespace viewer

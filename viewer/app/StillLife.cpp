@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "viewer/app/StillLife.h"
+
+#include <QVector2D>
+#include <QtMath>
+
+#include <cmath>
+
+namespace viewer {
+
+namespace {
+
+using Profile = QVector<QVector2D>; // radius and height, from the axis below to the axis above
+
+/// One turned piece: its outline and what it is made of.
+struct Piece
+{
+    Profile profile;
+    QVector3D color;
+    float gloss;
+    Footprint foot;
+};
+
+constexpr int Segments = 96;
+constexpr int StepsPerSpan = 9;
+
+QVector2D splinePoint(const QVector2D &a, const QVector2D &b, const QVector2D &c, const QVector2D &d,
+                      float t)
+{
+    return 0.5f * (2 * b + (c - a) * t + (2 * a - 5 * b + 4 * c - d) * t * t
+                   + (3 * b - a - 3 * c + d) * t * t * t);
+}
+
+// The outline as a smooth curve through its points, which stay on the right side of the axis.
+Profile smooth(const Profile &points)
+{
+    Profile curve;
+    const int last = points.size() - 1;
+    for (int i = 0; i < last; ++i) {
+        for (int step = 0; step < StepsPerSpan; ++step) {
+            QVector2D point = splinePoint(points.at(qMax(i - 1, 0)), points.at(i), points.at(i + 1),
+                                          points.at(qMin(i + 2, last)), float(step) / StepsPerSpan);
+            curve.append({qMax(point.x(), 0.0f), qMax(point.y(), 0.0f)});
+        }
+    }
+    curve.append(points.last());
+    return curve;
+}
+
+Profile ball(float radius)
+{
+    Profile points;
+    constexpr int steps = 40;
+    for (int i = 0; i <= steps; ++i) {
+        const float angle = float(M_PI) * i / steps;
+        points.append({radius * std::sin(angle), radius - radius * std::cos(angle)});
+    }
+    return points;
+}
+
+Vertex cornerAt(const Piece &piece, const Profile &curve, int row, float angle)
+{
+    const QVector2D point = curve.at(row);
+    const QVector2D along =
+        (curve.at(qMin(row + 1, curve.size() - 1)) - curve.at(qMax(row - 1, 0))).normalized();
+    const QVector3D outwards(std::cos(angle), 0, std::sin(angle));
+    const QVector3D normal = outwards * along.y() - QVector3D(0, along.x(), 0);
+    // Less light reaches what is close to the floor.
+    const float open = 0.55f + 0.45f * std::min(1.0f, point.y() / 0.35f);
+    return {outwards * point.x() + QVector3D(piece.foot.x, point.y(), piece.foot.z),
+            normal.normalized(), piece.color * open, piece.gloss};
+}
+
+void appendTurned(Mesh *mesh, const Piece &piece)
+{
+    const int base = mesh->vertices.size();
+    constexpr int columns = Segments + 1;
+    for (int row = 0; row < piece.profile.size(); ++row) {
+        for (int column = 0; column < columns; ++column) {
+            const float angle = 2 * float(M_PI) * column / Segments;
+            mesh->vertices.append(cornerAt(piece, piece.profile, row, angle));
+        }
+    }
+    for (int row = 0; row + 1 < piece.profile.size(); ++row) {
+        for (int column = 0; column < Segments; ++column) {
+            const int a = base + row * columns + column;
+            const int b = a + columns;
+            for (int corner : {a, b, a + 1, a + 1, b, b + 1})
+                mesh->indices.append(quint16(corner));
+        }
+    }
+}
+
+// A vase with a lip: up the outside, over the edge, down the inside.
+Profile vase()
+{
+    return smooth({{0.0f, 0.0f},   {0.36f, 0.0f},  {0.415f, 0.03f}, {0.46f, 0.16f}, {0.64f, 0.52f},
+                   {0.72f, 0.92f}, {0.62f, 1.32f}, {0.38f, 1.66f},  {0.26f, 1.94f}, {0.28f, 2.12f},
+                   {0.39f, 2.26f}, {0.41f, 2.29f}, {0.385f, 2.305f}, {0.34f, 2.27f}, {0.24f, 2.12f},
+                   {0.22f, 1.9f},  {0.0f, 1.7f}});
+}
+
+Profile bowl()
+{
+    return smooth({{0.0f, 0.0f},  {0.24f, 0.0f},  {0.28f, 0.02f}, {0.3f, 0.08f},  {0.5f, 0.2f},
+                   {0.68f, 0.42f}, {0.73f, 0.58f}, {0.715f, 0.605f}, {0.69f, 0.585f}, {0.62f, 0.42f},
+                   {0.42f, 0.22f}, {0.0f, 0.14f}});
+}
+
+QVector<Piece> pieces()
+{
+    return {
+        {vase(), {0.035f, 0.17f, 0.20f}, 0.9f, {0.0f, 0.0f, 0.62f}},
+        {bowl(), {0.62f, 0.22f, 0.09f}, 0.45f, {1.22f, 0.62f, 0.5f}},
+        {ball(0.3f), {0.78f, 0.70f, 0.56f}, 0.7f, {-0.82f, 0.82f, 0.26f}},
+    };
+}
+
+} // namespace
+
+Mesh StillLife::build()
+{
+    Mesh mesh;
+    const QVector<Piece> all = pieces();
+    for (const Piece &piece : all)
+        appendTurned(&mesh, piece);
+    return mesh;
+}
+
+QVector<Footprint> StillLife::footprints()
+{
+    QVector<Footprint> feet;
+    const QVector<Piece> all = pieces();
+    for (const Piece &piece : all)
+        feet.append(piece.foot);
+    return feet;
+}
+
+} // namespace viewer
