@@ -46,8 +46,7 @@ void paintFloor(QPainter *painter, const QRectF &area)
 
 } // namespace
 
-Backdrop::Backdrop(QWidget *parent)
-    : QWidget(parent)
+Backdrop::Backdrop(QWidget *parent) : QWidget(parent)
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
 }

@@ -51,9 +51,10 @@ CommandLine::CommandLine(const QStringList &arguments)
 void CommandLine::fail(const QString &reason)
 {
     outcome = Outcome::Fault;
-    text = QStringLiteral("%1: %2\n%3\n")
-               .arg(QCoreApplication::applicationName(), reason,
-                    tr("\"%1 --help\" lists all options.").arg(QCoreApplication::applicationName()));
+    text =
+        QStringLiteral("%1: %2\n%3\n")
+            .arg(QCoreApplication::applicationName(), reason,
+                 tr("\"%1 --help\" lists all options.").arg(QCoreApplication::applicationName()));
 }
 
 } // namespace viewer

@@ -13,10 +13,7 @@ class ControllerService : public kxControllerService
     Q_OBJECT
 
 public:
-    explicit ControllerService(bool headless)
-        : m_headless(headless)
-    {
-    }
+    explicit ControllerService(bool headless) : m_headless(headless) {}
 
     bool isHeadless() override { return m_headless; }
 

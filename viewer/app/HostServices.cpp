@@ -5,9 +5,7 @@
 
 namespace viewer {
 
-HostServices::HostServices(MainWindow *window)
-    : m_controller(!window)
-    , m_mainWindow(window)
+HostServices::HostServices(MainWindow *window) : m_controller(!window), m_mainWindow(window)
 {
     if (!window)
         return;

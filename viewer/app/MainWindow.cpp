@@ -36,8 +36,7 @@ QString stateKey()
 
 } // namespace
 
-MainWindow::MainWindow(ViewArea::Background background)
-    : m_viewArea(new ViewArea(background, this))
+MainWindow::MainWindow(ViewArea::Background background) : m_viewArea(new ViewArea(background, this))
 {
     setObjectName(QStringLiteral("mainWindow"));
     setCentralWidget(m_viewArea);
@@ -57,9 +56,8 @@ void MainWindow::setScenePath(const QString &path)
 {
     m_scenePath = path;
     const QString application = QApplication::applicationDisplayName();
-    setWindowTitle(path.isEmpty()
-                       ? application
-                       : tr("%1[*] - %2").arg(QFileInfo(path).fileName(), application));
+    setWindowTitle(path.isEmpty() ? application
+                                  : tr("%1[*] - %2").arg(QFileInfo(path).fileName(), application));
 }
 
 void MainWindow::notify(Severity severity, const QString &text)
@@ -136,8 +134,8 @@ void MainWindow::createModulesMenu()
 void MainWindow::createHelpMenu()
 {
     QMenu *menu = menuBar()->addMenu(tr("&Help"));
-    QAction *about = menu->addAction(tr("&About %1").arg(QApplication::applicationDisplayName()), this,
-                                     &MainWindow::showAbout);
+    QAction *about = menu->addAction(tr("&About %1").arg(QApplication::applicationDisplayName()),
+                                     this, &MainWindow::showAbout);
     about->setMenuRole(QAction::AboutRole);
 }
 
@@ -152,9 +150,9 @@ void MainWindow::createStatusBar()
 
 void MainWindow::chooseScene()
 {
-    const QString path = QFileDialog::getOpenFileName(
-        this, tr("Open Scene"), QFileInfo(m_scenePath).absolutePath(),
-        tr("Scenes (*.json);;All files (*)"));
+    const QString path =
+        QFileDialog::getOpenFileName(this, tr("Open Scene"), QFileInfo(m_scenePath).absolutePath(),
+                                     tr("Scenes (*.json);;All files (*)"));
     if (!path.isEmpty())
         emit openRequested(path);
 }
@@ -167,11 +165,11 @@ void MainWindow::toggleFullScreen(bool on)
 
 void MainWindow::showAbout()
 {
-    QMessageBox::about(this, tr("About %1").arg(QApplication::applicationDisplayName()),
-                       tr("<h3>%1 %2</h3><p>Shows a scene and its text and image overlays, and hosts "
-                          "the modules that edit them.</p>")
-                           .arg(QApplication::applicationDisplayName(),
-                                QApplication::applicationVersion()));
+    QMessageBox::about(
+        this, tr("About %1").arg(QApplication::applicationDisplayName()),
+        tr("<h3>%1 %2</h3><p>Shows a scene and its text and image overlays, and hosts "
+           "the modules that edit them.</p>")
+            .arg(QApplication::applicationDisplayName(), QApplication::applicationVersion()));
 }
 
 } // namespace viewer

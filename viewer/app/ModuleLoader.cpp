@@ -13,7 +13,8 @@ namespace viewer {
 
 QString ModuleLoader::defaultPlugin()
 {
-    return QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("overlayeditor.so"));
+    return QDir(QCoreApplication::applicationDirPath())
+        .filePath(QStringLiteral("overlayeditor.so"));
 }
 
 QString ModuleLoader::load(const QString &file)

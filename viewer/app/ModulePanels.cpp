@@ -74,8 +74,8 @@ QMenu *ModulePanels::categoryMenu(const QString &category)
     const QString name = categoryName(category);
     if (auto *known = m_menu->findChild<QMenu *>(name, Qt::FindDirectChildrenOnly))
         return known;
-    QMenu *menu =
-        m_menu->addMenu(QCoreApplication::translate("ModuleCategory", category.toUtf8().constData()));
+    QMenu *menu = m_menu->addMenu(
+        QCoreApplication::translate("ModuleCategory", category.toUtf8().constData()));
     menu->setObjectName(name);
     return menu;
 }

@@ -3,7 +3,6 @@
 
 #include "viewer/app/NoticeArea.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
 #include <QStyle>
@@ -15,8 +14,18 @@ namespace {
 
 constexpr int MostNotices = 4;
 constexpr int Margin = 12;
+constexpr int Spacing = 6;
 constexpr int WidestNotice = 760;
+constexpr int Padding = 10;
 constexpr int MarkSize = 18;
+constexpr int MarkPadding = 9;
+constexpr int ButtonSize = 18;
+constexpr int TextLeft = MarkSize + 2 * Margin;
+
+int textWidth(int noticeWidth)
+{
+    return noticeWidth - TextLeft - ButtonSize - 2 * MarkPadding;
+}
 
 struct Look
 {
@@ -54,7 +63,7 @@ QLabel *makeLabel(const QString &text, QWidget *parent)
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     return label;
 }
 
@@ -63,13 +72,29 @@ QLabel *makeLabel(const QString &text, QWidget *parent)
 Notice::Notice(Severity severity, const QString &text, QWidget *parent)
     : QWidget(parent)
     , m_severity(severity)
-    , m_text(text)
+    , m_label(makeLabel(text, this))
+    , m_button(makeCloseButton(this))
 {
-    auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(2 * Margin + MarkSize, 8, 8, 8);
-    row->addWidget(makeLabel(text, this), 1);
-    row->addWidget(makeCloseButton(this), 0, Qt::AlignTop);
     setAccessibleName(text);
+    connect(m_button, &QToolButton::clicked, this, &Notice::dismissed);
+}
+
+QString Notice::text() const
+{
+    return m_label->text();
+}
+
+// Reckoned here and not by a layout of Qt, which reserves the height of the text at its narrowest.
+int Notice::heightForWidth(int width) const
+{
+    return qMax(m_label->heightForWidth(textWidth(width)) + 2 * Padding,
+                MarkSize + 2 * MarkPadding);
+}
+
+void Notice::resizeEvent(QResizeEvent *)
+{
+    m_label->setGeometry(TextLeft, Padding, textWidth(width()), height() - 2 * Padding);
+    m_button->setGeometry(width() - ButtonSize - MarkPadding, MarkPadding, ButtonSize, ButtonSize);
 }
 
 void Notice::paintEvent(QPaintEvent *)
@@ -83,7 +108,7 @@ void Notice::paintEvent(QPaintEvent *)
     painter.setBrush(ground);
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
 
-    const QRectF mark(Margin, 11, MarkSize, MarkSize);
+    const QRectF mark(Margin, MarkPadding, MarkSize, MarkSize);
     painter.setPen(Qt::NoPen);
     painter.setBrush(look.color);
     painter.drawEllipse(mark);
@@ -95,13 +120,9 @@ void Notice::paintEvent(QPaintEvent *)
     painter.drawText(mark, Qt::AlignCenter, QLatin1String(look.mark));
 }
 
-NoticeArea::NoticeArea(QWidget *parent)
-    : QWidget(parent)
-    , m_layout(new QVBoxLayout(this))
+NoticeArea::NoticeArea(QWidget *parent) : QWidget(parent)
 {
     setObjectName(QStringLiteral("notices"));
-    m_layout->setContentsMargins(0, 0, 0, 0);
-    m_layout->setSpacing(6);
     hide();
 }
 
@@ -110,56 +131,48 @@ void NoticeArea::add(Severity severity, const QString &text)
     if (texts().contains(text))
         return;
     auto *notice = new Notice(severity, text, this);
-    const auto *button = notice->findChild<QToolButton *>(QStringLiteral("dismiss"));
-    connect(button, &QToolButton::clicked, this, [this, notice] { dismiss(notice); });
-    m_layout->insertWidget(0, notice);
-    const QList<Notice *> all = notices();
-    for (int i = MostNotices; i < all.size(); ++i)
-        dismiss(all.at(i));
-    setVisible(true);
+    connect(notice, &Notice::dismissed, this, [this, notice] { dismiss(notice); });
+    m_notices.prepend(notice);
+    notice->show();
+    while (m_notices.size() > MostNotices)
+        dismiss(m_notices.last());
+    show();
     place();
 }
 
 void NoticeArea::clear()
 {
-    const QList<Notice *> all = notices();
-    for (Notice *notice : all)
-        dismiss(notice);
+    while (!m_notices.isEmpty())
+        dismiss(m_notices.last());
 }
 
 QStringList NoticeArea::texts() const
 {
     QStringList all;
-    const QList<Notice *> shown = notices();
-    for (const Notice *notice : shown)
+    for (const Notice *notice : m_notices)
         all.append(notice->text());
     return all;
 }
 
 void NoticeArea::place()
 {
-    const QWidget *around = parentWidget();
-    const int width = qMin(WidestNotice, around->width() - 2 * Margin);
-    const int height = layout()->hasHeightForWidth() ? layout()->heightForWidth(width)
-                                                     : sizeHint().height();
-    setGeometry((around->width() - width) / 2, Margin, width, height);
-}
-
-QList<Notice *> NoticeArea::notices() const
-{
-    QList<Notice *> all;
-    for (int i = 0; i < m_layout->count(); ++i)
-        all.append(static_cast<Notice *>(m_layout->itemAt(i)->widget()));
-    return all;
+    const int width = qMin(WidestNotice, parentWidget()->width() - 2 * Margin);
+    int bottom = 0;
+    for (Notice *notice : qAsConst(m_notices)) {
+        const int height = notice->heightForWidth(width);
+        notice->setGeometry(0, bottom, width, height);
+        bottom += height + Spacing;
+    }
+    setGeometry((parentWidget()->width() - width) / 2, Margin, width, qMax(0, bottom - Spacing));
 }
 
 void NoticeArea::dismiss(Notice *notice)
 {
     // The button that asked for this may still be at work.
-    m_layout->removeWidget(notice);
+    m_notices.removeOne(notice);
     notice->hide();
     notice->deleteLater();
-    setVisible(m_layout->count() > 0);
+    setVisible(!m_notices.isEmpty());
     place();
 }
 

@@ -6,7 +6,8 @@
 #include <QStringList>
 #include <QWidget>
 
-class QVBoxLayout;
+class QLabel;
+class QToolButton;
 
 namespace viewer {
 
@@ -22,15 +23,23 @@ class Notice : public QWidget
 public:
     Notice(Severity severity, const QString &text, QWidget *parent = nullptr);
 
-    QString text() const { return m_text; }
+    QString text() const;
     Severity severity() const { return m_severity; }
+
+    int heightForWidth(int width) const override;
+
+Q_SIGNALS:
+    /// The user has read it.
+    void dismissed();
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     const Severity m_severity;
-    const QString m_text;
+    QLabel *m_label;
+    QToolButton *m_button;
 };
 
 /// The stack of messages that floats over the top of the view. Nothing in it blocks the user: each
@@ -55,10 +64,9 @@ public:
     void place();
 
 private:
-    QList<Notice *> notices() const;
     void dismiss(Notice *notice);
 
-    QVBoxLayout *m_layout;
+    QList<Notice *> m_notices; // newest first
 };
 
 } // namespace viewer

@@ -44,8 +44,8 @@ public:
 private:
     float m_yaw = -24.0f;
     float m_pitch = 12.0f;
-    float m_distance = 6.4f;
-    QVector3D m_target{0.0f, 1.02f, 0.0f};
+    float m_distance = 7.2f;
+    QVector3D m_target{0.0f, 1.06f, 0.0f};
 };
 
 } // namespace viewer

@@ -26,24 +26,26 @@ struct Piece
 constexpr int Segments = 96;
 constexpr int StepsPerSpan = 9;
 
-QVector2D splinePoint(const QVector2D &a, const QVector2D &b, const QVector2D &c, const QVector2D &d,
-                      float t)
+// A cubic B-spline: its curvature has no jumps, which mirrored lights would show as kinks.
+QVector2D splinePoint(const QVector2D &a, const QVector2D &b, const QVector2D &c,
+                      const QVector2D &d, float t)
 {
-    return 0.5f * (2 * b + (c - a) * t + (2 * a - 5 * b + 4 * c - d) * t * t
-                   + (3 * b - a - 3 * c + d) * t * t * t);
+    const float s = 1 - t;
+    return (s * s * s * a + (3 * t * t * t - 6 * t * t + 4) * b
+            + (3 * s * s * s - 6 * s * s + 4) * c + t * t * t * d)
+           / 6;
 }
 
-// The outline as a smooth curve through its points, which stay on the right side of the axis.
+// The outline as a smooth curve that begins and ends at the outer points.
 Profile smooth(const Profile &points)
 {
     Profile curve;
     const int last = points.size() - 1;
-    for (int i = 0; i < last; ++i) {
-        for (int step = 0; step < StepsPerSpan; ++step) {
-            QVector2D point = splinePoint(points.at(qMax(i - 1, 0)), points.at(i), points.at(i + 1),
-                                          points.at(qMin(i + 2, last)), float(step) / StepsPerSpan);
-            curve.append({qMax(point.x(), 0.0f), qMax(point.y(), 0.0f)});
-        }
+    const auto at = [&points, last](int i) { return points.at(qBound(0, i, last)); };
+    for (int i = -2; i < last; ++i) {
+        for (int step = 0; step < StepsPerSpan; ++step)
+            curve.append(
+                splinePoint(at(i), at(i + 1), at(i + 2), at(i + 3), float(step) / StepsPerSpan));
     }
     curve.append(points.last());
     return curve;
@@ -96,17 +98,39 @@ void appendTurned(Mesh *mesh, const Piece &piece)
 // A vase with a lip: up the outside, over the edge, down the inside.
 Profile vase()
 {
-    return smooth({{0.0f, 0.0f},   {0.36f, 0.0f},  {0.415f, 0.03f}, {0.46f, 0.16f}, {0.64f, 0.52f},
-                   {0.72f, 0.92f}, {0.62f, 1.32f}, {0.38f, 1.66f},  {0.26f, 1.94f}, {0.28f, 2.12f},
-                   {0.39f, 2.26f}, {0.41f, 2.29f}, {0.385f, 2.305f}, {0.34f, 2.27f}, {0.24f, 2.12f},
-                   {0.22f, 1.9f},  {0.0f, 1.7f}});
+    return smooth({{0.0f, 0.0f},
+                   {0.36f, 0.0f},
+                   {0.415f, 0.03f},
+                   {0.46f, 0.16f},
+                   {0.64f, 0.52f},
+                   {0.72f, 0.92f},
+                   {0.62f, 1.32f},
+                   {0.38f, 1.66f},
+                   {0.26f, 1.94f},
+                   {0.28f, 2.12f},
+                   {0.39f, 2.26f},
+                   {0.41f, 2.29f},
+                   {0.385f, 2.305f},
+                   {0.34f, 2.27f},
+                   {0.24f, 2.12f},
+                   {0.22f, 1.9f},
+                   {0.0f, 1.7f}});
 }
 
 Profile bowl()
 {
-    return smooth({{0.0f, 0.0f},  {0.24f, 0.0f},  {0.28f, 0.02f}, {0.3f, 0.08f},  {0.5f, 0.2f},
-                   {0.68f, 0.42f}, {0.73f, 0.58f}, {0.715f, 0.605f}, {0.69f, 0.585f}, {0.62f, 0.42f},
-                   {0.42f, 0.22f}, {0.0f, 0.14f}});
+    return smooth({{0.0f, 0.0f},
+                   {0.24f, 0.0f},
+                   {0.28f, 0.02f},
+                   {0.3f, 0.08f},
+                   {0.5f, 0.2f},
+                   {0.68f, 0.42f},
+                   {0.73f, 0.58f},
+                   {0.715f, 0.605f},
+                   {0.69f, 0.585f},
+                   {0.62f, 0.42f},
+                   {0.42f, 0.22f},
+                   {0.0f, 0.14f}});
 }
 
 QVector<Piece> pieces()

@@ -9,8 +9,17 @@
 /// is painted where no 3D view can be had.
 namespace viewer::StudioColors {
 
-inline QColor above() { return {38, 43, 51}; }
-inline QColor below() { return {74, 80, 89}; }
-inline QColor glow() { return {44, 47, 52}; }
+inline QColor above()
+{
+    return {38, 43, 51};
+}
+inline QColor below()
+{
+    return {74, 80, 89};
+}
+inline QColor glow()
+{
+    return {44, 47, 52};
+}
 
 } // namespace viewer::StudioColors

@@ -55,27 +55,23 @@ StudioRenderer::StudioRenderer()
 
 StudioRenderer::~StudioRenderer() = default;
 
-QString StudioRenderer::initialize()
+bool StudioRenderer::initialize()
 {
     initializeOpenGLFunctions();
     if (!link(&m_backdrop, "backdrop") || !link(&m_floor, "floor") || !link(&m_model, "model"))
-        return m_error;
+        return false;
     upload(StillLife::build());
     const QVector<Footprint> feet = StillLife::footprints();
     for (const Footprint &foot : feet)
         m_feet.append({foot.x, foot.z, foot.radius});
-    return QString();
+    return true;
 }
 
 bool StudioRenderer::link(QOpenGLShaderProgram *program, const char *name)
 {
-    const bool done =
-        program->addShaderFromSourceFile(QOpenGLShader::Vertex, shaderFile(name, "vert"))
-        && program->addShaderFromSourceFile(QOpenGLShader::Fragment, shaderFile(name, "frag"))
-        && program->link();
-    if (!done)
-        m_error = program->log();
-    return done;
+    return program->addShaderFromSourceFile(QOpenGLShader::Vertex, shaderFile(name, "vert"))
+           && program->addShaderFromSourceFile(QOpenGLShader::Fragment, shaderFile(name, "frag"))
+           && program->link();
 }
 
 void StudioRenderer::upload(const Mesh &mesh)
@@ -102,7 +98,7 @@ void StudioRenderer::draw(const OrbitCamera &camera, const QSize &size)
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
     glDisable(GL_DEPTH_TEST);
     drawBackdrop(aspect);
-    drawFloor(camera, viewProjection, size.height());
+    drawFloor(viewProjection);
     glEnable(GL_DEPTH_TEST);
     drawModel(camera, viewProjection);
     glDisable(GL_DEPTH_TEST);
@@ -118,18 +114,13 @@ void StudioRenderer::drawBackdrop(float aspect)
     drawRectangle(&m_backdrop);
 }
 
-void StudioRenderer::drawFloor(const OrbitCamera &camera, const QMatrix4x4 &viewProjection,
-                               int height)
+void StudioRenderer::drawFloor(const QMatrix4x4 &viewProjection)
 {
     glEnable(GL_BLEND);
     glBlendFunc(GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
     m_floor.bind();
     m_floor.setUniformValue("viewProjection", viewProjection);
     m_floor.setUniformValue("extent", FloorExtent);
-    m_floor.setUniformValue("eye", camera.eye());
-    // Half the view's height at distance 1 is the inverse of the projection's vertical scale.
-    m_floor.setUniformValue("pixelSize",
-                            2 / (OrbitCamera::projection(1)(1, 1) * float(qMax(1, height))));
     m_floor.setUniformValueArray("feet", m_feet.constData(), m_feet.size());
     drawRectangle(&m_floor);
     glDisable(GL_BLEND);

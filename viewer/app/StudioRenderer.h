@@ -24,9 +24,9 @@ public:
     ~StudioRenderer();
     Q_DISABLE_COPY(StudioRenderer)
 
-    /// Builds programs and buffers in the current context. Returns what went wrong, empty when all
-    /// is ready to draw.
-    QString initialize();
+    /// Builds programs and buffers in the current context. False when the driver refuses a program;
+    /// Qt has then written its reasons to the log, and nothing may be drawn.
+    bool initialize();
 
     /// Draws one frame into a framebuffer of `size` pixels.
     void draw(const OrbitCamera &camera, const QSize &size);
@@ -35,7 +35,7 @@ private:
     bool link(QOpenGLShaderProgram *program, const char *name);
     void upload(const Mesh &mesh);
     void drawBackdrop(float aspect);
-    void drawFloor(const OrbitCamera &camera, const QMatrix4x4 &viewProjection, int height);
+    void drawFloor(const QMatrix4x4 &viewProjection);
     void drawModel(const OrbitCamera &camera, const QMatrix4x4 &viewProjection);
     void drawRectangle(QOpenGLShaderProgram *program);
 
@@ -47,7 +47,6 @@ private:
     QOpenGLBuffer m_indices{QOpenGLBuffer::IndexBuffer};
     QVector<QVector3D> m_feet;
     int m_indexCount = 0;
-    QString m_error;
 };
 
 } // namespace viewer

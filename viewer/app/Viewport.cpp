@@ -27,8 +27,7 @@ bool platformComposesOpenGl()
 
 } // namespace
 
-Viewport::Viewport(QWidget *parent)
-    : QOpenGLWidget(parent)
+Viewport::Viewport(QWidget *parent) : QOpenGLWidget(parent)
 {
     QSurfaceFormat wanted = format();
     wanted.setSamples(Samples);
@@ -70,13 +69,12 @@ void Viewport::initializeGL()
     m_rendererName = QString::fromLatin1(
         reinterpret_cast<const char *>(context()->functions()->glGetString(GL_RENDERER)));
     m_renderer = std::make_unique<StudioRenderer>();
-    const QString fault = m_renderer->initialize();
-    if (fault.isEmpty()) {
+    if (m_renderer->initialize()) {
         emit started();
         return;
     }
     m_renderer.reset();
-    emit failed(fault);
+    emit failed(tr("the graphics driver refuses the shaders"));
 }
 
 void Viewport::paintGL()
@@ -102,8 +100,9 @@ void Viewport::mousePressEvent(QMouseEvent *event)
 
 void Viewport::mouseMoveEvent(QMouseEvent *event)
 {
-    const bool pans = event->buttons() & Qt::MiddleButton
-                      || (event->buttons() & Qt::LeftButton && event->modifiers() & Qt::ControlModifier);
+    const bool pans =
+        event->buttons() & Qt::MiddleButton
+        || (event->buttons() & Qt::LeftButton && event->modifiers() & Qt::ControlModifier);
     if (!pans && !(event->buttons() & Qt::LeftButton))
         return;
     const QPointF travel = travelTo(event->pos());

@@ -32,8 +32,7 @@ namespace {
 
 int callsOf(const QString &file)
 {
-    const auto calls =
-        reinterpret_cast<int (*)()>(QLibrary(file).resolve("callsOfInitPlugin"));
+    const auto calls = reinterpret_cast<int (*)()>(QLibrary(file).resolve("callsOfInitPlugin"));
     return calls ? calls() : -1;
 }
 

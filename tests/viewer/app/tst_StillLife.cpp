@@ -67,10 +67,10 @@ void tst_StillLife::shouldStandOnItsFootprints()
     const QVector<Footprint> feet = StillLife::footprints();
     QCOMPARE(feet.size(), 3);
     for (const Footprint &foot : feet) {
-        const bool stands =
-            std::any_of(mesh.vertices.cbegin(), mesh.vertices.cend(), [&foot](const Vertex &vertex) {
-                return vertex.position == QVector3D(foot.x, 0, foot.z);
-            });
+        const bool stands = std::any_of(mesh.vertices.cbegin(), mesh.vertices.cend(),
+                                        [&foot](const Vertex &vertex) {
+                                            return vertex.position == QVector3D(foot.x, 0, foot.z);
+                                        });
         QVERIFY(stands);
     }
 }

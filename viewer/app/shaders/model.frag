@@ -36,15 +36,13 @@ void main()
 {
     highp vec3 toEye = normalize(eye - at);
     highp vec3 n = normalize(facing);
-    // Inner walls are seen from behind their outline.
-    n *= sign(dot(n, toEye) + 1e-5);
 
     mediump float key = max(dot(n, KeyDirection), 0.0);
     mediump float fill = max(dot(n, FillDirection) * 0.8 + 0.2, 0.0);
     mediump float rim = pow(max(dot(n, RimDirection), 0.0), 2.0);
-    mediump vec3 diffuse = key * vec3(1.30, 1.20, 1.06) + fill * vec3(0.20, 0.25, 0.33)
+    mediump vec3 diffuse = key * vec3(1.34, 1.22, 1.05) + fill * vec3(0.13, 0.17, 0.24)
         + rim * vec3(0.40, 0.44, 0.5);
-    mediump vec3 ambient = mix(vec3(0.10, 0.09, 0.08), vec3(0.22, 0.25, 0.29), n.y * 0.5 + 0.5);
+    mediump vec3 ambient = mix(vec3(0.07, 0.065, 0.06), vec3(0.15, 0.17, 0.20), n.y * 0.5 + 0.5);
 
     mediump float grazing = pow(1.0 - max(dot(n, toEye), 0.0), 5.0);
     mediump float mirror = mix(0.04, 0.9, grazing) * polish;

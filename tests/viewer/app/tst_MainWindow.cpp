@@ -1,0 +1,296 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "viewer/app/MainWindow.h"
+
+#include "tests/support/KxTest.h"
+#include "viewer/app/MainWindowService.h"
+#include "viewer/app/ModulePanels.h"
+#include "viewer/app/Viewport.h"
+
+#include <QDockWidget>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <QToolButton>
+
+using namespace viewer;
+
+namespace {
+
+/// A window of a module that hides QWidget::show() behind a signal, as the editor's does.
+class ModuleWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    using QMainWindow::QMainWindow;
+
+Q_SIGNALS:
+    void show();
+};
+
+class Window : public MainWindow
+{
+public:
+    Window() : MainWindow(ViewArea::Background::Painted) {}
+
+    QWidget *add(const QString &name, const QString &category = QStringLiteral("Scene"),
+                 const QString &title = QStringLiteral("A Title"))
+    {
+        QPixmap red(16, 16);
+        red.fill(Qt::red);
+        auto *content = new ModuleWindow(this);
+        content->setMinimumWidth(100);
+        MainWindowService(this).registerModule(name, category, content, "a help id", QIcon(red),
+                                               title, 0);
+        return content;
+    }
+
+    QMenu *modules() const { return findChild<QMenu *>("modules"); }
+
+    QStringList notices() const { return viewArea()->notices()->texts(); }
+};
+
+QStringList textsOf(const QMenu *menu)
+{
+    QStringList texts;
+    const QList<QAction *> actions = menu->actions();
+    for (const QAction *action : actions)
+        texts.append(action->text());
+    return texts;
+}
+
+} // namespace
+
+class tst_MainWindow : public KxTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() override;
+    void shouldDockAModuleWithItsWindowTitleAndIcon();
+    void shouldListModulesByCategory();
+    void shouldShowAndHideAModuleFromTheMenu();
+    void shouldKeepTheFirstOfTwoModulesOfOneName();
+    void shouldSurviveARegistrationWithoutWindow();
+    void shouldGiveThePanelItsUsualWidth();
+    void shouldRememberTheLayout();
+    void shouldUseTheDefaultLayoutWhereTheRememberedOneIsBroken();
+    void shouldNameTheSceneInTheTitle();
+    void shouldSayThatThereIsNo3DView();
+    void shouldShowNoticesUntilTheyAreDismissed();
+    void shouldShowAllLinesOfANotice();
+    void shouldKeepTheNewestNotices();
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void tst_MainWindow::init()
+{
+    KxTest::init();
+    QApplication::setApplicationDisplayName("Overlay Viewer");
+    m_folder = std::make_unique<QTemporaryDir>();
+}
+
+void tst_MainWindow::shouldDockAModuleWithItsWindowTitleAndIcon()
+{
+    Window window;
+    QVERIFY(!window.modules()->isEnabled());
+    QWidget *content = window.add("Editor");
+    QDockWidget *dock = window.modulePanels()->dock("Editor");
+    QVERIFY(dock);
+    QCOMPARE(dock->widget(), content);
+    QCOMPARE(dock->windowTitle(), QString("A Title"));
+    QVERIFY(!dock->windowIcon().isNull());
+    QCOMPARE(window.dockWidgetArea(dock), Qt::RightDockWidgetArea);
+    QCOMPARE(window.modulePanels()->helpId("Editor"), QString("a help id"));
+    QVERIFY(window.modules()->isEnabled());
+    window.setVisible(true);
+    QTRY_VERIFY(content->isVisible());
+    QVERIFY(!content->isWindow());
+}
+
+void tst_MainWindow::shouldListModulesByCategory()
+{
+    Window window;
+    window.add("One", "Scene", "First");
+    window.add("Two", "Render", "Second");
+    window.add("Three", "Scene", "Third");
+    QCOMPARE(textsOf(window.modules()), QStringList({"Scene", "Render"}));
+    const QList<QAction *> categories = window.modules()->actions();
+    QCOMPARE(textsOf(categories.at(0)->menu()), QStringList({"First", "Third"}));
+    QCOMPARE(textsOf(categories.at(1)->menu()), QStringList("Second"));
+}
+
+void tst_MainWindow::shouldShowAndHideAModuleFromTheMenu()
+{
+    Window window;
+    QWidget *content = window.add("Editor");
+    window.setVisible(true);
+    QTRY_VERIFY(content->isVisible());
+    QAction *toggle = window.modules()->actions().constFirst()->menu()->actions().constFirst();
+    QVERIFY(toggle->isCheckable());
+    QVERIFY(toggle->isChecked());
+    toggle->trigger();
+    QVERIFY(!content->isVisible());
+    toggle->trigger();
+    QVERIFY(content->isVisible());
+}
+
+void tst_MainWindow::shouldKeepTheFirstOfTwoModulesOfOneName()
+{
+    Window window;
+    const QWidget *first = window.add("Editor", "Scene", "First");
+    const QWidget *second = window.add("Editor", "Scene", "Second");
+    const QDockWidget *dock = window.modulePanels()->dock("Editor");
+    QCOMPARE(dock->widget(), first);
+    QCOMPARE(dock->windowTitle(), QString("First"));
+    QCOMPARE(window.findChildren<QDockWidget *>().size(), 1);
+    QCOMPARE(textsOf(window.modules()->actions().constFirst()->menu()), QStringList("First"));
+    QVERIFY(!second->isVisible());
+    QVERIFY(window.notices().join(' ').contains("\"Editor\""));
+}
+
+void tst_MainWindow::shouldSurviveARegistrationWithoutWindow()
+{
+    Window window;
+    MainWindowService service(&window);
+    service.registerModule("Editor", "Scene", nullptr, QString(), QIcon(), "Title", 0);
+    QVERIFY(!window.modulePanels()->dock("Editor"));
+    MainWindowService orphan(nullptr);
+    QCOMPARE(orphan.getMainWindow(), nullptr);
+    orphan.registerModule("Editor", "Scene", &window, QString(), QIcon(), "Title", 0);
+}
+
+void tst_MainWindow::shouldGiveThePanelItsUsualWidth()
+{
+    Window window;
+    window.add("Editor");
+    window.restoreLayout(QSettings(m_folder->filePath("none.ini"), QSettings::IniFormat));
+    QCOMPARE(window.size(), QSize(1600, 1000));
+    window.setVisible(true);
+    QTRY_COMPARE(window.modulePanels()->dock("Editor")->width(), 460);
+}
+
+void tst_MainWindow::shouldRememberTheLayout()
+{
+    QSettings settings(m_folder->filePath("layout.ini"), QSettings::IniFormat);
+    {
+        Window window;
+        window.add("Editor");
+        window.add("Other", "Scene", "Other");
+        window.restoreLayout(settings);
+        window.setVisible(true);
+        QTRY_COMPARE(window.modulePanels()->dock("Editor")->width(), 460);
+        window.resize(700, 555);
+        window.addDockWidget(Qt::LeftDockWidgetArea, window.modulePanels()->dock("Editor"));
+        window.resizeDocks({window.modulePanels()->dock("Editor")}, {222}, Qt::Horizontal);
+        window.modulePanels()->dock("Other")->close();
+        QTRY_COMPARE(window.modulePanels()->dock("Editor")->width(), 222);
+        window.saveLayout(&settings);
+    }
+    Window window;
+    window.add("Editor");
+    window.add("Other", "Scene", "Other");
+    window.restoreLayout(settings);
+    window.setVisible(true);
+    QTRY_COMPARE(window.size(), QSize(700, 555));
+    QDockWidget *dock = window.modulePanels()->dock("Editor");
+    QCOMPARE(window.dockWidgetArea(dock), Qt::LeftDockWidgetArea);
+    QTRY_COMPARE(dock->width(), 222);
+    QVERIFY(!window.modulePanels()->dock("Other")->isVisible());
+}
+
+void tst_MainWindow::shouldUseTheDefaultLayoutWhereTheRememberedOneIsBroken()
+{
+    QSettings settings(m_folder->filePath("broken.ini"), QSettings::IniFormat);
+    settings.setValue("mainWindow/geometry", QByteArray("nonsense"));
+    settings.setValue("mainWindow/state", QByteArray("nonsense"));
+    Window window;
+    window.add("Editor");
+    window.restoreLayout(settings);
+    window.setVisible(true);
+    QTRY_COMPARE(window.modulePanels()->dock("Editor")->width(), 460);
+}
+
+void tst_MainWindow::shouldNameTheSceneInTheTitle()
+{
+    Window window;
+    QCOMPARE(window.windowTitle(), QString("Overlay Viewer"));
+    window.setScenePath("/some/where/night.json");
+    QCOMPARE(window.windowTitle(), QString("night.json[*] - Overlay Viewer"));
+    window.setScenePath(QString());
+    QCOMPARE(window.windowTitle(), QString("Overlay Viewer"));
+}
+
+void tst_MainWindow::shouldSayThatThereIsNo3DView()
+{
+    // The platform of this test has no OpenGL: the wish for it cannot be met, which is no error.
+    MainWindow wishing(ViewArea::Background::OpenGl);
+    QVERIFY(!wishing.viewArea()->viewport());
+    const QLabel *label = wishing.statusBar()->findChild<QLabel *>("backgroundLabel");
+    QVERIFY2(label->text().contains("No 3D view") && label->text().contains("offscreen"),
+             qPrintable(label->text()));
+    QVERIFY(wishing.viewArea()->notices()->texts().isEmpty());
+
+    Window refusing;
+    label = refusing.statusBar()->findChild<QLabel *>("backgroundLabel");
+    QVERIFY2(label->text().contains("No 3D view") && label->text().contains("backdrop"),
+             qPrintable(label->text()));
+    QSignalSpy frames(refusing.viewArea(), &ViewArea::framePainted);
+    refusing.setVisible(true);
+    QTRY_VERIFY(!frames.isEmpty());
+    refusing.viewArea()->resetView();
+}
+
+void tst_MainWindow::shouldShowNoticesUntilTheyAreDismissed()
+{
+    Window window;
+    window.setVisible(true);
+    QVERIFY(!window.viewArea()->notices()->isVisible());
+    window.notify(Severity::Warning, "first\nwith a second line");
+    window.notify(Severity::Error, "second");
+    window.notify(Severity::Error, "second");
+    QCOMPARE(window.notices(), QStringList({"second", "first\nwith a second line"}));
+    QVERIFY(window.viewArea()->notices()->isVisible());
+    QCOMPARE(window.statusBar()->currentMessage(), QString("second"));
+
+    const auto newest = window.viewArea()->notices()->findChildren<Notice *>().constLast();
+    QTest::mouseClick(newest->findChild<QToolButton *>("dismiss"), Qt::LeftButton);
+    QCOMPARE(window.notices(), QStringList("first\nwith a second line"));
+    window.viewArea()->notices()->clear();
+    QCOMPARE(window.notices(), QStringList());
+    QVERIFY(!window.viewArea()->notices()->isVisible());
+}
+
+void tst_MainWindow::shouldShowAllLinesOfANotice()
+{
+    Window window;
+    window.setVisible(true);
+    window.notify(Severity::Error,
+                  QString("many words in a long line ").repeated(20) + "\nand one");
+    const Notice *notice = window.viewArea()->notices()->findChild<Notice *>();
+    const auto *label = notice->findChild<QLabel *>();
+    QTRY_VERIFY(label->height() >= label->heightForWidth(label->width()));
+    QVERIFY(notice->height() < label->heightForWidth(label->width()) + 30);
+    // In a narrow window the same words need more lines.
+    window.resize(500, 600);
+    QTRY_VERIFY(label->height() >= label->heightForWidth(label->width()));
+}
+
+void tst_MainWindow::shouldKeepTheNewestNotices()
+{
+    Window window;
+    for (int i = 1; i <= 6; ++i)
+        window.notify(Severity::Info, QString::number(i));
+    QCOMPARE(window.notices(), QStringList({"6", "5", "4", "3"}));
+}
+
+KX_TEST_MAIN(tst_MainWindow)
+#include "tst_MainWindow.moc"
