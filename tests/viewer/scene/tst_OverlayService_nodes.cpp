@@ -1,0 +1,540 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "tests/viewer/scene/ServiceTest.h"
+
+#include <QTimer>
+
+using QRPC::NodeId;
+using QRPC::NodeList;
+using viewer::NodeKind;
+using viewer::Scene;
+
+class tst_OverlayService_nodes : public ServiceTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shouldStartWithARootAlone();
+    void shouldAnswerUnknownIdsNeutrally_data();
+    void shouldAnswerUnknownIdsNeutrally();
+    void shouldReadTheTree();
+    void shouldTellActiveFromEnabled();
+    void shouldFollowActivityThroughChanges();
+    void shouldCreateAsLastChildAndSelectIt();
+    void shouldCountNamesByKind();
+    void shouldCountOnFromTheNamesOfAnOpenedScene();
+    void shouldCreateNothingWhereNothingCanLie();
+    void shouldCreateDisabledInASwitchThatShowsOne();
+    void shouldGiveANewTextUsefulValues();
+    void shouldNeverGiveAnIdTwice();
+    void shouldDuplicateDirectlyBehindTheOriginal_data();
+    void shouldDuplicateDirectlyBehindTheOriginal();
+    void shouldCopyValuesAndKeepTheOriginalApart();
+    void shouldNameTheCopyOfANamelessNode();
+    void shouldDelete_data();
+    void shouldDelete();
+    void shouldGroup_data();
+    void shouldGroup();
+    void shouldStopGroupingWhenTheGroupIsDeletedMeanwhile();
+    void shouldIgnoreListsWithoutEffect_data();
+    void shouldIgnoreListsWithoutEffect();
+    void shouldPostponeWhatASlotAddsInsideAMove();
+    void shouldAnnounceThePostponedBeforeTheNextOperation();
+    void shouldResetWithNewIds();
+    void shouldHandleDeepTrees();
+    void shouldKnowTheRowsOfManyChildren();
+};
+
+void tst_OverlayService_nodes::shouldStartWithARootAlone()
+{
+    viewer::OverlayService fresh;
+    QCOMPARE(fresh.getRootNode(), NodeId(Scene::RootId));
+    QCOMPARE(fresh.getChildCount(fresh.getRootNode()), 0);
+    QCOMPARE(fresh.getParent(fresh.getRootNode()), NodeId(0));
+    QVERIFY(fresh.isActive(fresh.getRootNode()));
+    QVERIFY(fresh.isEnabled(fresh.getRootNode()));
+    QVERIFY(!fresh.isOverlay(fresh.getRootNode()));
+    QVERIFY(!fresh.isSwitch(fresh.getRootNode()));
+    QVERIFY(fresh.getName(fresh.getRootNode()).isEmpty());
+}
+
+void tst_OverlayService_nodes::shouldAnswerUnknownIdsNeutrally_data()
+{
+    QTest::addColumn<QString>("node");
+    QTest::newRow("no node") << "0";
+    QTest::newRow("unknown id") << "?";
+    QTest::newRow("root") << "root";
+    QTest::newRow("group") << "g";
+    QTest::newRow("switch") << "s";
+}
+
+void tst_OverlayService_nodes::shouldAnswerUnknownIdsNeutrally()
+{
+    QFETCH(QString, node);
+    open("a g(b) s{c}");
+    const NodeId n = id(node);
+    QVERIFY(!service().isOverlay(n));
+    QCOMPARE(service().getOverlayType(n), 0);
+    QVERIFY(service().getText(n).isEmpty());
+    QVERIFY(service().getFont(n).isEmpty());
+    QVERIFY(!service().getFontColor(n).isValid());
+    QVERIFY(!service().getBackgroundColor(n).isValid());
+    QVERIFY(!service().getBackgroundTransparency(n).isValid());
+    QVERIFY(service().getImage(n).isEmpty());
+    QCOMPARE(service().getSizeType(n), 0);
+    QCOMPARE(service().getSize(n), 0.0F);
+    QCOMPARE(service().getPosition(n), QPointF());
+    QCOMPARE(service().getOffset(n), QPointF());
+    if (scene().find(n))
+        return;
+    QCOMPARE(service().getParent(n), NodeId(0));
+    QCOMPARE(service().getChildCount(n), 0);
+    QCOMPARE(service().getChild(n, 0), NodeId(0));
+    QCOMPARE(service().getChildIndex(n, id("a")), -1);
+    QCOMPARE(service().getChildIndex(id("g"), n), -1);
+    QCOMPARE(service().getChildIndex(n, n), -1);
+    QVERIFY(!service().isSwitch(n));
+    QVERIFY(service().getName(n).isEmpty());
+    QVERIFY(!service().isEnabled(n));
+    QVERIFY(!service().isActive(n));
+}
+
+void tst_OverlayService_nodes::shouldReadTheTree()
+{
+    open("a g(b c) s{d}");
+    const NodeId root = service().getRootNode();
+    QCOMPARE(service().getChildCount(root), 3);
+    QCOMPARE(service().getChild(root, 1), id("g"));
+    QCOMPARE(service().getChild(root, -1), NodeId(0));
+    QCOMPARE(service().getChild(root, 3), NodeId(0));
+    QCOMPARE(service().getParent(id("c")), id("g"));
+    QCOMPARE(service().getChildIndex(id("g"), id("c")), 1);
+    QCOMPARE(service().getChildIndex(root, id("c")), -1);
+    QCOMPARE(service().getChildIndex(0, root), -1);
+    QCOMPARE(service().getChildCount(id("a")), 0);
+    QVERIFY(service().isOverlay(id("a")));
+    QVERIFY(service().isSwitch(id("s")));
+    QVERIFY(!service().isSwitch(id("g")));
+    QCOMPARE(service().getName(id("d")), QString("d"));
+}
+
+void tst_OverlayService_nodes::shouldTellActiveFromEnabled()
+{
+    open("g-(h(a b-))");
+    QVERIFY(service().isEnabled(id("a")));
+    QVERIFY(!service().isActive(id("a")));
+    QVERIFY(!service().isActive(id("h")));
+    service().setEnabled({id("g")}, true);
+    QVERIFY(service().isActive(id("a")));
+    QVERIFY(!service().isActive(id("b")));
+}
+
+void tst_OverlayService_nodes::shouldFollowActivityThroughChanges()
+{
+    open("g-(a) h(b)");
+    QVERIFY(!service().isActive(id("a")));
+    QVERIFY(service().isActive(id("b")));
+    service().moveNodes(ids("a"), id("h"), -1);
+    service().moveNodes(ids("b"), id("g"), -1);
+    QVERIFY(service().isActive(id("a")));
+    QVERIFY(!service().isActive(id("b")));
+    const NodeId created = service().createOverlay(id("g"));
+    QVERIFY(!service().isActive(created));
+}
+
+void tst_OverlayService_nodes::shouldCreateAsLastChildAndSelectIt()
+{
+    open("a g(b)");
+    service().createOverlay(id("g"));
+    service().createGroup(id("root"));
+    service().createSwitch(id("g"));
+    QCOMPARE(dump(), QString("a g(b Text 1 Switch 1{}) Group 1()"));
+    QCOMPARE(signalLines(),
+             QStringList({"nodesAdded Text 1", "nodesCreated Text 1", "nodesAdded Group 1",
+                          "nodesCreated Group 1", "nodesAdded Switch 1", "nodesCreated Switch 1"}));
+}
+
+void tst_OverlayService_nodes::shouldCountNamesByKind()
+{
+    open("");
+    const NodeId first = service().createOverlay(id("root"));
+    service().createOverlay(id("root"));
+    service().deleteNodes({first});
+    service().createGroup(id("root"));
+    service().createOverlay(id("root"));
+    QCOMPARE(dump(), QString("Text 2 Group 1() Text 3"));
+}
+
+void tst_OverlayService_nodes::shouldCountOnFromTheNamesOfAnOpenedScene()
+{
+    Scene opened;
+    const QStringList names{"Text 12", "Text 3", "Text x", "Text ", "Text 99 b", "My Text 40"};
+    for (const QString &name : names) {
+        viewer::Node node;
+        node.kind = NodeKind::Overlay;
+        node.name = name;
+        opened.append(Scene::RootId, opened.add(node));
+    }
+    open("");
+    service().setScene(opened);
+    QCOMPARE(service().getName(service().createOverlay(id("root"))), QString("Text 13"));
+    QCOMPARE(service().getName(service().createGroup(id("root"))), QString("Group 1"));
+}
+
+void tst_OverlayService_nodes::shouldCreateNothingWhereNothingCanLie()
+{
+    open("a");
+    const NodeList parents = ids("a 0 ?");
+    for (const NodeId parent : parents) {
+        QCOMPARE(service().createOverlay(parent), NodeId(0));
+        QCOMPARE(service().createGroup(parent), NodeId(0));
+        QCOMPARE(service().createSwitch(parent), NodeId(0));
+    }
+    QCOMPARE(dump(), QString("a"));
+    QVERIFY(signalLines().isEmpty());
+}
+
+void tst_OverlayService_nodes::shouldCreateDisabledInASwitchThatShowsOne()
+{
+    open("s{}");
+    service().createOverlay(id("s"));
+    service().createOverlay(id("s"));
+    QCOMPARE(dump(), QString("s{Text 1 Text 2-}"));
+    QVERIFY(!signalLines().join(' ').contains("enabledStateChanged"));
+}
+
+void tst_OverlayService_nodes::shouldGiveANewTextUsefulValues()
+{
+    open("");
+    const NodeId node = service().createOverlay(id("root"));
+    QVERIFY(service().isOverlay(node));
+    QVERIFY(service().isActive(node));
+    QCOMPARE(service().getOverlayType(node), 0);
+    QCOMPARE(service().getText(node), QString("Text"));
+    QCOMPARE(service().getFont(node), QString("DejaVu Sans"));
+    QCOMPARE(service().getFontColor(node), QColor(Qt::white));
+    QCOMPARE(service().getBackgroundColor(node), QColor(Qt::black));
+    QCOMPARE(service().getBackgroundTransparency(node), QColor(128, 128, 128));
+    QCOMPARE(service().getSizeType(node), 0);
+    QCOMPARE(service().getSize(node), 24.0F);
+    QCOMPARE(service().getPosition(node), QPointF(0.5, 0.5));
+    QCOMPARE(service().getOffset(node), QPointF(0, 0));
+}
+
+void tst_OverlayService_nodes::shouldNeverGiveAnIdTwice()
+{
+    open("a g(b)");
+    const NodeId highest = scene().nextId();
+    const NodeId created = service().createOverlay(id("root"));
+    QCOMPARE(created, highest);
+    service().deleteNodes({created});
+    QVERIFY(service().createGroup(id("root")) > created);
+}
+
+void tst_OverlayService_nodes::shouldDuplicateDirectlyBehindTheOriginal_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("nodes");
+    QTest::addColumn<QString>("after");
+    QTest::addColumn<QString>("copies");
+    QTest::newRow("one") << "a b"
+                         << "a"
+                         << "a a Copy b"
+                         << "a Copy";
+    QTest::newRow("several, listed backwards") << "a b c"
+                                               << "c a"
+                                               << "a a Copy b c c Copy"
+                                               << "a Copy|c Copy";
+    QTest::newRow("with content") << "g(a h-(b)) c"
+                                  << "g"
+                                  << "g(a h-(b)) g Copy(a h-(b)) c"
+                                  << "g Copy";
+    QTest::newRow("a child travels with its group") << "g(a b)"
+                                                    << "a g b"
+                                                    << "g(a b) g Copy(a b)"
+                                                    << "g Copy";
+    QTest::newRow("several parents, in the order of the tree") << "g(a h(b)) c"
+                                                               << "c b a"
+                                                               << "g(a a Copy h(b b Copy)) c c Copy"
+                                                               << "a Copy|b Copy|c Copy";
+    QTest::newRow("the shown child of a switch") << "s{a b-}"
+                                                 << "b a"
+                                                 << "s{a a Copy- b- b Copy-}"
+                                                 << "a Copy|b Copy";
+    QTest::newRow("a switch") << "s{a- b}"
+                              << "s"
+                              << "s{a- b} s Copy{a- b}"
+                              << "s Copy";
+    QTest::newRow("disabled") << "a-"
+                              << "a"
+                              << "a- a Copy-"
+                              << "a Copy";
+    QTest::newRow("repeated, unknown, root") << "a"
+                                             << "a root ? 0 a"
+                                             << "a a Copy"
+                                             << "a Copy";
+}
+
+void tst_OverlayService_nodes::shouldDuplicateDirectlyBehindTheOriginal()
+{
+    QFETCH(QString, before);
+    QFETCH(QString, nodes);
+    QFETCH(QString, after);
+    QFETCH(QString, copies);
+    open(before);
+    service().duplicateNodes(ids(nodes));
+    QCOMPARE(dump(), after);
+    copies.replace('|', ' ');
+    QCOMPARE(signalLines(), QStringList({"nodesAdded " + copies, "nodesCreated " + copies}));
+}
+
+void tst_OverlayService_nodes::shouldCopyValuesAndKeepTheOriginalApart()
+{
+    open("g(a)");
+    service().setText(ids("a"), "one");
+    service().setSize(ids("a"), 7.5F);
+    service().duplicateNodes(ids("g"));
+    const NodeId copy = service().getChild(service().getChild(id("root"), 1), 0);
+    QCOMPARE(service().getText(copy), QString("one"));
+    QCOMPARE(service().getSize(copy), 7.5F);
+    service().setText({copy}, "two");
+    QCOMPARE(service().getText(service().getChild(id("g"), 0)), QString("one"));
+}
+
+void tst_OverlayService_nodes::shouldNameTheCopyOfANamelessNode()
+{
+    open("a");
+    service().setName(ids("a"), QString());
+    service().duplicateNodes({service().getChild(id("root"), 0)});
+    QCOMPARE(service().getName(service().getChild(id("root"), 1)), QString("Copy"));
+}
+
+void tst_OverlayService_nodes::shouldDelete_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("nodes");
+    QTest::addColumn<QString>("after");
+    QTest::addColumn<QString>("removed");
+    QTest::newRow("one") << "a b c"
+                         << "b"
+                         << "a c"
+                         << "b";
+    QTest::newRow("all, backwards") << "a b"
+                                    << "b a"
+                                    << ""
+                                    << "a b";
+    QTest::newRow("group with its child") << "g(a) b"
+                                          << "a g"
+                                          << "b"
+                                          << "g";
+    QTest::newRow("several parents") << "g(a b) h(c)"
+                                     << "c a"
+                                     << "g(b) h()"
+                                     << "a c";
+    QTest::newRow("shown child of a switch") << "s{a b-}"
+                                             << "a"
+                                             << "s{b-}"
+                                             << "a";
+    QTest::newRow("never the root") << "a b"
+                                    << "root 0 ? a a"
+                                    << "b"
+                                    << "a";
+}
+
+void tst_OverlayService_nodes::shouldDelete()
+{
+    QFETCH(QString, before);
+    QFETCH(QString, nodes);
+    QFETCH(QString, after);
+    QFETCH(QString, removed);
+    open(before);
+    const int count = scene().nodeCount();
+    service().deleteNodes(ids(nodes));
+    QCOMPARE(dump(), after);
+    QVERIFY(scene().nodeCount() < count);
+    QCOMPARE(signalLines(), QStringList("nodesRemoved " + removed));
+    service().createOverlay(id("root"));
+    QVERIFY(service().isActive(service().getChild(id("root"), 0)));
+}
+
+void tst_OverlayService_nodes::shouldGroup_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("nodes");
+    QTest::addColumn<QString>("after");
+    QTest::addColumn<QStringList>("moved");
+    QTest::newRow("one") << "a b c"
+                         << "b"
+                         << "a Group 1(b) c"
+                         << QStringList{"nodesMoved b / Group 1 / 0", "enabledStateChanged b"};
+    QTest::newRow("in rows' order at the topmost")
+        << "a b c d"
+        << "d b"
+        << "a Group 1(b d) c"
+        << QStringList{"nodesMoved b d / Group 1 Group 1 / 0 b", "enabledStateChanged b d"};
+    QTest::newRow("from several parents")
+        << "a g(b c)"
+        << "c a"
+        << "Group 1(a c) g(b)"
+        << QStringList{"nodesMoved a c / Group 1 Group 1 / 0 a", "enabledStateChanged a c"};
+    QTest::newRow("group with its child")
+        << "g(a) b"
+        << "a g"
+        << "Group 1(g(a)) b" << QStringList{"nodesMoved g / Group 1 / 0", "enabledStateChanged g"};
+    QTest::newRow("inside a disabled group")
+        << "g-(a b)"
+        << "a b"
+        << "g-(Group 1(a b))"
+        << QStringList{"nodesMoved a b / Group 1 Group 1 / 0 a", "enabledStateChanged g"};
+    QTest::newRow("hidden children of a switch")
+        << "s{a b- c-}"
+        << "b c"
+        << "s{a Group 1-(b- c-)}"
+        << QStringList{"nodesMoved b c / Group 1 Group 1 / 0 b", "enabledStateChanged Group 1"};
+    QTest::newRow("the shown child of a switch")
+        << "s{a- b c-}"
+        << "b c"
+        << "s{a- Group 1(b c-)}"
+        << QStringList{"nodesMoved b c / Group 1 Group 1 / 0 b", "enabledStateChanged Group 1 b c"};
+    QTest::newRow("unknown and repeated")
+        << "a b"
+        << "? 0 root b b"
+        << "a Group 1(b)" << QStringList{"nodesMoved b / Group 1 / 0", "enabledStateChanged b"};
+}
+
+void tst_OverlayService_nodes::shouldGroup()
+{
+    QFETCH(QString, before);
+    QFETCH(QString, nodes);
+    QFETCH(QString, after);
+    QFETCH(QStringList, moved);
+    open(before);
+    service().groupNodes(ids(nodes));
+    QCOMPARE(dump(), after);
+    QCOMPARE(signalLines(),
+             QStringList("nodesAdded Group 1") + moved + QStringList("nodesCreated Group 1"));
+}
+
+void tst_OverlayService_nodes::shouldStopGroupingWhenTheGroupIsDeletedMeanwhile()
+{
+    open("a b");
+    connect(&service(), &kxOverlayService::nodesAdded, this,
+            [this](const NodeList &nodes) { service().deleteNodes(nodes); });
+    service().groupNodes(ids("a b"));
+    QCOMPARE(dump(), QString("a b"));
+}
+
+void tst_OverlayService_nodes::shouldIgnoreListsWithoutEffect_data()
+{
+    QTest::addColumn<QString>("nodes");
+    QTest::newRow("empty") << "";
+    QTest::newRow("no node") << "0";
+    QTest::newRow("unknown") << "? ?";
+    QTest::newRow("root") << "root";
+}
+
+void tst_OverlayService_nodes::shouldIgnoreListsWithoutEffect()
+{
+    QFETCH(QString, nodes);
+    open("a g(b) s{c d-}");
+    const NodeId next = scene().nextId();
+    service().duplicateNodes(ids(nodes));
+    service().deleteNodes(ids(nodes));
+    service().groupNodes(ids(nodes));
+    service().moveNodes(ids(nodes), id("g"), 0);
+    service().setName(ids(nodes), "x");
+    service().setEnabled(ids(nodes), false);
+    service().setEnabled(ids(nodes), true);
+    QCOMPARE(dump(), QString("a g(b) s{c d-}"));
+    QCOMPARE(scene().nextId(), next);
+    QVERIFY(signalLines().isEmpty());
+    QVERIFY(service().isEnabled(id("root")));
+}
+
+void tst_OverlayService_nodes::shouldPostponeWhatASlotAddsInsideAMove()
+{
+    open("a b g()");
+    bool inside = true;
+    connect(&service(), &kxOverlayService::nodesMoved, this, [&] {
+        service().createOverlay(id("g"));
+        service().setName(ids("b"), "renamed");
+    });
+    connect(&service(), &kxOverlayService::nodesAdded, this, [&] { QVERIFY(!inside); });
+    service().moveNodes(ids("a"), id("g"), 0);
+    inside = false;
+    QCOMPARE(dump(), QString("renamed g(a Text 1)"));
+    QCOMPARE(signalLines(), QStringList("nodesMoved a / g / 0"));
+    QTRY_VERIFY(sawSignals());
+    QCOMPARE(signalLines(), QStringList({"nodesAdded Text 1", "nodesCreated Text 1",
+                                         "nameChanged renamed", "enabledStateChanged a"}));
+}
+
+void tst_OverlayService_nodes::shouldAnnounceThePostponedBeforeTheNextOperation()
+{
+    open("a b g()");
+    auto once = connect(&service(), &kxOverlayService::nodesMoved, this,
+                        [&] { service().createOverlay(id("g")); });
+    service().moveNodes(ids("a"), id("g"), 0);
+    disconnect(once);
+    service().deleteNodes(ids("b"));
+    QCOMPARE(signalLines(),
+             QStringList({"nodesMoved a / g / 0", "nodesAdded Text 1", "nodesCreated Text 1",
+                          "enabledStateChanged a", "nodesRemoved b"}));
+}
+
+void tst_OverlayService_nodes::shouldResetWithNewIds()
+{
+    open("a g-(b)");
+    const NodeId before = id("b");
+    const NodeId next = scene().nextId();
+    service().setScene(scenetext::build("c s{d e-}"));
+    QCOMPARE(signalLines(), QStringList("modelReset"));
+    QCOMPARE(dump(), QString("c s{d e-}"));
+    QVERIFY(!scene().find(before));
+    QVERIFY(id("c") >= next);
+    QCOMPARE(service().getParent(id("d")), id("s"));
+    QVERIFY(service().isActive(id("d")));
+    service().setEnabled(ids("e"), true);
+    QCOMPARE(dump(), QString("c s{d- e}"));
+}
+
+void tst_OverlayService_nodes::shouldHandleDeepTrees()
+{
+    open("");
+    NodeId parent = id("root");
+    NodeList chain;
+    for (int level = 0; level < 10000; ++level)
+        chain.append(parent = service().createGroup(parent));
+    QVERIFY(service().isActive(parent));
+    service().setName(chain, "x");
+    service().duplicateNodes(chain);
+    QCOMPARE(scene().nodeCount(), 20001);
+    service().setEnabled(chain, false);
+    QVERIFY(!service().isActive(parent));
+    service().moveNodes({chain.at(1)}, id("root"), 0);
+    service().deleteNodes(chain);
+    QCOMPARE(scene().nodeCount(), 10001);
+}
+
+void tst_OverlayService_nodes::shouldKnowTheRowsOfManyChildren()
+{
+    open("");
+    for (int i = 0; i < 50000; ++i)
+        service().createOverlay(id("root"));
+    const NodeId root = id("root");
+    for (int row = 0; row < 50000; ++row)
+        QCOMPARE(service().getChildIndex(root, service().getChild(root, row)), row);
+    NodeList everySecond;
+    for (int row = 0; row < 50000; row += 2)
+        everySecond.append(service().getChild(root, row));
+    service().moveNodes(everySecond, root, -1);
+    service().duplicateNodes(everySecond);
+    for (int row = 0; row < 75000; ++row)
+        QCOMPARE(service().getChildIndex(root, service().getChild(root, row)), row);
+    QCOMPARE(service().getName(service().getChild(root, 0)), QString("Text 2"));
+    QCOMPARE(service().getName(service().getChild(root, 25001)), QString("Text 1 Copy"));
+}
+
+KX_TEST_MAIN(tst_OverlayService_nodes)
+#include "tst_OverlayService_nodes.moc"

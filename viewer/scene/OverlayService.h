@@ -1,0 +1,142 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "host/kxOverlayService.h"
+#include "viewer/scene/Scene.h"
+
+#include <QHash>
+#include <QSet>
+
+#include <functional>
+#include <queue>
+
+namespace viewer {
+
+struct MovePlan;
+
+/// The viewer's overlay service: owns the open scene, answers and changes it, and announces every
+/// change. The application creates it, registers it under kxOverlayService and keeps it as long as
+/// modules live; GUI thread only.
+///
+/// Beyond the contract it states:
+/// - New nodes become the last child, named by kind and counted ("Text 3"); copies are named
+///   "Name Copy" and stand directly behind their originals.
+/// - A node that enters a switch which already shows a child enters disabled.
+/// - Nodes are grouped at the place of the topmost one. When they include the child that a switch
+///   shows, the group takes over from it and is shown.
+/// - Within one operation structural signals leave first, then values, then enabled states; nodes
+///   are listed in pre-order of the tree.
+///
+/// What slots do to the scene while a move is being announced happens at once, but additions,
+/// removals, resets and creations, and whatever follows them, are announced after that move has
+/// returned: with the next operation or from the event loop, whichever comes first.
+class OverlayService : public kxOverlayService
+{
+    Q_OBJECT
+
+public:
+    explicit OverlayService(QObject *parent = nullptr);
+    ~OverlayService() override;
+
+    /// The open scene. The reference stays valid as long as the service; whoever keeps pointers
+    /// into it gives them up with nodesRemoved() and modelReset().
+    const Scene &scene() const { return m_scene; }
+
+    /// Replaces the open scene and announces modelReset(). The nodes get ids that no node had before.
+    void setScene(Scene scene);
+
+    QRPC::NodeId getRootNode() override;
+    QRPC::NodeId getParent(QRPC::NodeId node) override;
+    int getChildCount(QRPC::NodeId node) override;
+    QRPC::NodeId getChild(QRPC::NodeId node, int index) override;
+    int getChildIndex(QRPC::NodeId parent, QRPC::NodeId child) override;
+    bool isOverlay(QRPC::NodeId node) override;
+    bool isSwitch(QRPC::NodeId node) override;
+    QString getName(QRPC::NodeId node) override;
+    bool isEnabled(QRPC::NodeId node) override;
+    bool isActive(QRPC::NodeId node) override;
+
+    int getOverlayType(QRPC::NodeId node) override;
+    QString getText(QRPC::NodeId node) override;
+    QString getFont(QRPC::NodeId node) override;
+    QColor getFontColor(QRPC::NodeId node) override;
+    QColor getBackgroundColor(QRPC::NodeId node) override;
+    QColor getBackgroundTransparency(QRPC::NodeId node) override;
+    QString getImage(QRPC::NodeId node) override;
+    int getSizeType(QRPC::NodeId node) override;
+    float getSize(QRPC::NodeId node) override;
+    QPointF getPosition(QRPC::NodeId node) override;
+    QPointF getOffset(QRPC::NodeId node) override;
+
+    QRPC::NodeId createOverlay(QRPC::NodeId parent) override;
+    QRPC::NodeId createGroup(QRPC::NodeId parent) override;
+    QRPC::NodeId createSwitch(QRPC::NodeId parent) override;
+    void duplicateNodes(const QRPC::NodeList &nodes) override;
+    void deleteNodes(const QRPC::NodeList &nodes) override;
+    void groupNodes(const QRPC::NodeList &nodes) override;
+    void moveNodes(const QRPC::NodeList &nodes, QRPC::NodeId newParent, int row) override;
+
+    void setOverlayType(const QRPC::NodeList &nodes, int type) override;
+    void setName(const QRPC::NodeList &nodes, const QString &name) override;
+    void setEnabled(const QRPC::NodeList &nodes, bool enabled) override;
+    void setText(const QRPC::NodeList &nodes, const QString &text) override;
+    void setFont(const QRPC::NodeList &nodes, const QString &family) override;
+    void setFontColor(const QRPC::NodeList &nodes, const QColor &color) override;
+    void setBackgroundColor(const QRPC::NodeList &nodes, const QColor &color) override;
+    void setBackgroundTransparency(const QRPC::NodeList &nodes, const QColor &color) override;
+    void setImage(const QRPC::NodeList &nodes, const QString &path) override;
+    void setSizeType(const QRPC::NodeList &nodes, int sizeType) override;
+    void setSize(const QRPC::NodeList &nodes, float size) override;
+    void setPosition(const QRPC::NodeList &nodes, const QPointF &position) override;
+    void setOffset(const QRPC::NodeList &nodes, const QPointF &offset) override;
+    void setOffsetX(const QRPC::NodeList &nodes, float x) override;
+    void setOffsetY(const QRPC::NodeList &nodes, float y) override;
+
+Q_SIGNALS:
+    /// An image file is to be read anew, since its path was set; sent before imageChanged().
+    void imageFileSet(const QString &path);
+
+private:
+    using NodeSignal = void (kxOverlayService::*)(const QRPC::NodeList &);
+
+    const Overlay *findOverlay(QRPC::NodeId id) const;
+
+    // announcing
+    void announce(std::function<void()> signal);
+    void announce(NodeSignal signal, const QRPC::NodeList &nodes);
+    void announceStructure(std::function<void()> signal);
+    void announceStructure(NodeSignal signal, const QRPC::NodeList &nodes);
+    void postpone(std::function<void()> signal);
+    void sendPostponed();
+
+    // values
+    template<class Change>
+    QRPC::NodeList changeOverlays(const QRPC::NodeList &nodes, Change change);
+    template<class Value>
+    void write(const QRPC::NodeList &nodes, Value Overlay::*member, const Value &value,
+               NodeSignal signal);
+    template<class Change>
+    void writeOffset(const QRPC::NodeList &nodes, Change change);
+
+    // nodes
+    Node newNode(NodeKind kind);
+    void countName(NodeKind kind, const QString &name);
+    QRPC::NodeId create(NodeKind kind, QRPC::NodeId parent);
+    QRPC::NodeId copyNode(QRPC::NodeId original);
+    QRPC::NodeList copyBehind(QRPC::NodeId parent, const QSet<QRPC::NodeId> &originals);
+    QRPC::NodeList relink(MovePlan plan, QRPC::NodeId newParent);
+    void announceMove(const QRPC::NodeList &block, QRPC::NodeId newParent,
+                      const QRPC::NodeList &enabledChanged);
+    void fillGroup(QRPC::NodeId group, const QRPC::NodeList &nodes, bool takesOver);
+    QHash<QRPC::NodeId, QSet<QRPC::NodeId>> byParent(const QRPC::NodeList &nodes) const;
+    void removeFromParents(const QRPC::NodeList &nodes);
+
+    Scene m_scene;
+    QHash<int, int> m_highestNumbers; // by kind: the highest number that a counted name has had
+    int m_announcedMoves = 0;         // moves that are being announced, one inside the other
+    std::queue<std::function<void()>> m_postponed;
+};
+
+} // namespace viewer

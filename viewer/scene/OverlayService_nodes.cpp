@@ -1,0 +1,266 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "viewer/scene/MoveRule.h"
+#include "viewer/scene/NodeLists.h"
+#include "viewer/scene/OverlayService.h"
+
+#include <QScopedValueRollback>
+
+#include <algorithm>
+
+namespace viewer {
+
+using QRPC::NodeId;
+using QRPC::NodeList;
+
+namespace {
+
+/// The pattern of counted names of a kind, with "%1" for the number.
+QString namePattern(NodeKind kind)
+{
+    switch (kind) {
+    case NodeKind::Group:
+        return OverlayService::tr("Group %1");
+    case NodeKind::Switch:
+        return OverlayService::tr("Switch %1");
+    case NodeKind::Overlay:
+        return OverlayService::tr("Text %1");
+    case NodeKind::Root:
+        break;
+    }
+    return {};
+}
+
+/// The number in a name that follows the pattern, 0 in any other name.
+int numberIn(const QString &name, const QString &pattern)
+{
+    const int before = pattern.indexOf(QLatin1String("%1"));
+    const int after = pattern.size() - before - 2;
+    const int digits = name.size() - before - after;
+    if (before < 0 || digits < 1 || !name.startsWith(pattern.leftRef(before))
+        || !name.endsWith(pattern.rightRef(after)))
+        return 0;
+    return name.midRef(before, digits).toInt();
+}
+
+QString nameOfCopy(const QString &name)
+{
+    return name.isEmpty() ? OverlayService::tr("Copy") : OverlayService::tr("%1 Copy").arg(name);
+}
+
+} // namespace
+
+void OverlayService::countName(NodeKind kind, const QString &name)
+{
+    int &highest = m_highestNumbers[int(kind)];
+    highest = std::max(highest, numberIn(name, namePattern(kind)));
+}
+
+Node OverlayService::newNode(NodeKind kind)
+{
+    Node node;
+    node.kind = kind;
+    node.name = namePattern(kind).arg(++m_highestNumbers[int(kind)]);
+    if (node.isOverlay())
+        node.overlay.text = tr("Text");
+    return node;
+}
+
+NodeId OverlayService::create(NodeKind kind, NodeId parent)
+{
+    sendPostponed();
+    const Node *target = m_scene.find(parent);
+    if (!target || !target->canHoldNodes())
+        return 0;
+    const NodeId id = m_scene.add(newNode(kind));
+    m_scene.append(parent, id);
+    announceStructure(&kxOverlayService::nodesAdded, {id});
+    announceStructure(&kxOverlayService::nodesCreated, {id});
+    return id;
+}
+
+NodeId OverlayService::createOverlay(NodeId parent)
+{
+    return create(NodeKind::Overlay, parent);
+}
+
+NodeId OverlayService::createGroup(NodeId parent)
+{
+    return create(NodeKind::Group, parent);
+}
+
+NodeId OverlayService::createSwitch(NodeId parent)
+{
+    return create(NodeKind::Switch, parent);
+}
+
+/// Copies a node with all that lies in it; the copy has no parent yet. Ids are given in pre-order.
+NodeId OverlayService::copyNode(NodeId original)
+{
+    NodeId top = 0;
+    std::vector<std::pair<NodeId, NodeId>> pending{{original, 0}}; // original, parent of the copy
+    while (!pending.empty()) {
+        const auto [source, parent] = pending.back();
+        pending.pop_back();
+        Node copy = *m_scene.find(source);
+        const std::vector<NodeId> children = std::move(copy.children);
+        copy.id = copy.parent = copy.shown = 0;
+        copy.children.clear();
+        const NodeId id = m_scene.add(std::move(copy));
+        if (parent == 0)
+            top = id;
+        else
+            m_scene.append(parent, id);
+        for (auto child = children.rbegin(); child != children.rend(); ++child)
+            pending.emplace_back(*child, id);
+    }
+    return top;
+}
+
+QHash<NodeId, QSet<NodeId>> OverlayService::byParent(const NodeList &nodes) const
+{
+    QHash<NodeId, QSet<NodeId>> children;
+    for (const NodeId id : nodes)
+        children[m_scene.find(id)->parent].insert(id);
+    return children;
+}
+
+NodeList OverlayService::copyBehind(NodeId parent, const QSet<NodeId> &originals)
+{
+    NodeList copies;
+    std::vector<NodeId> result;
+    const std::vector<NodeId> children = m_scene.find(parent)->children;
+    for (const NodeId child : children) {
+        result.push_back(child);
+        if (!originals.contains(child))
+            continue;
+        const NodeId copy = copyNode(child);
+        m_scene.setName(copy, nameOfCopy(m_scene.find(child)->name));
+        copies.append(copy);
+        result.push_back(copy);
+    }
+    m_scene.setChildren(parent, std::move(result));
+    return copies;
+}
+
+void OverlayService::duplicateNodes(const NodeList &nodes)
+{
+    sendPostponed();
+    const NodeList originals = inTreeOrder(m_scene, topNodes(m_scene, nodes));
+    const QHash<NodeId, QSet<NodeId>> children = byParent(originals);
+    QSet<NodeId> done;
+    NodeList copies;
+    for (const NodeId original : originals) {
+        const NodeId parent = m_scene.find(original)->parent;
+        if (done.contains(parent))
+            continue;
+        done.insert(parent);
+        copies += copyBehind(parent, children.value(parent));
+    }
+    copies = inTreeOrder(m_scene, copies);
+    announceStructure(&kxOverlayService::nodesAdded, copies);
+    announceStructure(&kxOverlayService::nodesCreated, copies);
+}
+
+void OverlayService::removeFromParents(const NodeList &nodes)
+{
+    const QHash<NodeId, QSet<NodeId>> leaving = byParent(nodes);
+    for (auto it = leaving.cbegin(); it != leaving.cend(); ++it) {
+        std::vector<NodeId> children = m_scene.find(it.key())->children;
+        const auto leaves = [&it](NodeId id) { return it->contains(id); };
+        children.erase(std::remove_if(children.begin(), children.end(), leaves), children.end());
+        m_scene.setChildren(it.key(), std::move(children));
+    }
+}
+
+void OverlayService::deleteNodes(const NodeList &nodes)
+{
+    sendPostponed();
+    const NodeList tops = inTreeOrder(m_scene, topNodes(m_scene, nodes));
+    removeFromParents(tops);
+    for (const NodeId id : tops)
+        m_scene.take(id);
+    announceStructure(&kxOverlayService::nodesRemoved, tops);
+}
+
+void OverlayService::groupNodes(const NodeList &nodes)
+{
+    sendPostponed();
+    const NodeList tops = inTreeOrder(m_scene, topNodes(m_scene, nodes));
+    if (tops.isEmpty())
+        return;
+    const Node &first = *m_scene.find(tops.constFirst());
+    const Node &parent = *m_scene.find(first.parent);
+    const bool takesOver = parent.shown != 0 && tops.contains(parent.shown);
+    const NodeId group = m_scene.add(newNode(NodeKind::Group));
+    std::vector<NodeId> siblings = parent.children;
+    siblings.insert(siblings.begin() + first.row, group);
+    m_scene.setChildren(parent.id, std::move(siblings));
+    announceStructure(&kxOverlayService::nodesAdded, {group});
+    if (m_scene.find(group)) // a listener may have deleted it
+        fillGroup(group, tops, takesOver);
+    announceStructure(&kxOverlayService::nodesCreated, {group});
+}
+
+void OverlayService::fillGroup(NodeId group, const NodeList &nodes, bool takesOver)
+{
+    MovePlan plan = planMove(m_scene, nodes, group, -1);
+    if (plan.block.isEmpty())
+        return;
+    const NodeList block = plan.block;
+    relink(std::move(plan), group);
+    const Node &parent = *m_scene.find(m_scene.find(group)->parent);
+    NodeList enabledChanged;
+    if (takesOver && parent.isSwitch() && parent.shown == 0) {
+        m_scene.setEnabled(group, true);
+        enabledChanged.append(group);
+    }
+    announceMove(block, group, enabledChanged);
+}
+
+void OverlayService::moveNodes(const NodeList &nodes, NodeId newParent, int row)
+{
+    sendPostponed();
+    MovePlan plan = planMove(m_scene, nodes, newParent, row);
+    if (plan.block.isEmpty())
+        return;
+    const NodeList block = plan.block;
+    const NodeList disabled = relink(std::move(plan), newParent);
+    announceMove(block, newParent, disabled);
+}
+
+/// Carries a plan out. Returns the nodes that had to be disabled.
+NodeList OverlayService::relink(MovePlan plan, NodeId newParent)
+{
+    NodeList fromElsewhere;
+    for (const NodeId id : qAsConst(plan.block)) {
+        if (m_scene.find(id)->parent != newParent)
+            fromElsewhere.append(id);
+    }
+    removeFromParents(fromElsewhere);
+    return m_scene.setChildren(newParent, std::move(plan.children));
+}
+
+void OverlayService::announceMove(const NodeList &block, NodeId newParent,
+                                  const NodeList &enabledChanged)
+{
+    const std::vector<NodeId> &siblings = m_scene.find(newParent)->children;
+    NodeList parents;
+    NodeList afters;
+    for (const NodeId id : block) {
+        const int row = m_scene.find(id)->row;
+        parents.append(newParent);
+        afters.append(row > 0 ? siblings[std::size_t(row) - 1] : 0);
+    }
+    // A module looks no further than an inactive parent, so the topmost disabled node is named.
+    const NodeId closed = highestDisabled(m_scene, newParent);
+    const NodeList reached = m_scene.find(closed)->enabled ? block : NodeList{closed};
+    const NodeList enabledNodes = inTreeOrder(m_scene, reached + enabledChanged);
+
+    const QScopedValueRollback<int> announcing(m_announcedMoves, m_announcedMoves + 1);
+    announce([=] { Q_EMIT nodesMoved(block, parents, afters); });
+    announce(&kxOverlayService::enabledStateChanged, enabledNodes);
+}
+
+} // namespace viewer
