@@ -91,8 +91,11 @@ void kxOverlayItemIndex::setAttached(QStandardItem *item)
 void kxOverlayItemIndex::destroyDetached(const QStandardItemModel *model)
 {
     const QList<QStandardItem *> items = m_detached.keys(model);
-    for (QStandardItem *item : items)
-        delete item;
+    for (QStandardItem *item : items) {
+        // A caller may have given it an owner by hand, which destroys it in its own time.
+        if (m_detached.contains(item) && !item->parent() && !item->model())
+            delete item;
+    }
 }
 
 void kxOverlayItemIndex::readUnread()
