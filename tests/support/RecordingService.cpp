@@ -95,6 +95,22 @@ void RecordingService::place(QRPC::NodeId node, QRPC::NodeId parent, int row)
     moved->parent = target;
 }
 
+QString RecordingService::lineOf(QRPC::NodeId id) const
+{
+    const Node &top = node(id);
+    QString line = top.name;
+    if (top.kind == Kind::Switch)
+        line += QLatin1Char('*');
+    if (!top.enabled)
+        line += QLatin1Char('-');
+    if (top.kind == Kind::Overlay)
+        return line;
+    QStringList inside;
+    for (const Node *child : top.children)
+        inside.append(lineOf(child->id));
+    return line + QLatin1Char('(') + inside.join(QLatin1Char(' ')) + QLatin1Char(')');
+}
+
 QRPC::NodeList RecordingService::allIds() const
 {
     QRPC::NodeList ids;

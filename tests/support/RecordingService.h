@@ -59,6 +59,8 @@ public:
 
     static constexpr QRPC::NodeId rootId = 1;
 
+    using QObject::receivers;
+
     /// Makes the tree the one of the line. Ids that the line leaves open grow from the highest.
     void build(const QString &line);
 
@@ -78,6 +80,10 @@ public:
 
     /// The data of a node that is there; free to be changed.
     Node &node(QRPC::NodeId node) const { return *m_nodes.at(node); }
+
+    /// A node and what lies in it, as a line that build() and insert() read. Its ids come back as
+    /// long as the names end in them.
+    QString lineOf(QRPC::NodeId node) const;
 
     /// All ids but the root's, parents before children.
     QRPC::NodeList allIds() const;

@@ -49,8 +49,9 @@ QString RecordingService::noteWrite(const char *operation, const QRPC::NodeList 
 
 void RecordingService::finish(const QString &line)
 {
-    if (m_hook)
-        m_hook(line);
+    const auto hook = m_hook; // it may replace itself
+    if (hook)
+        hook(line);
 }
 
 template<class V>

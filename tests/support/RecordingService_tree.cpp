@@ -3,6 +3,7 @@
 
 #include "tests/support/RecordingService.h"
 
+#include <QRegularExpression>
 #include <QSet>
 
 #include <algorithm>
@@ -167,6 +168,7 @@ RecordingService::Node *RecordingService::copyOf(const Node &source)
     const QRPC::NodeId id = copy->id;
     *copy = source;
     copy->id = id;
+    copy->name = QString(source.name).remove(QRegularExpression("[0-9]+$")) + QString::number(id);
     copy->children.clear();
     for (const Node *child : source.children) {
         copy->children.append(copyOf(*child));

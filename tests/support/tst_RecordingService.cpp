@@ -27,7 +27,6 @@ class tst_RecordingService : public KxTest
 {
     Q_OBJECT
 
-
 private Q_SLOTS:
     void init() override;
     void cleanup() override;
@@ -92,6 +91,7 @@ void tst_RecordingService::shouldReadATreeFromOneLine()
     QCOMPARE(shape(*m_service), QStringLiteral("g2(a3 b4-) s5(c6 d7-) e"));
     QCOMPARE(m_service->node(5).kind, notation::Kind::Switch);
     QCOMPARE(m_service->node(8).name, QStringLiteral("e"));
+    QCOMPARE(m_service->lineOf(5), QStringLiteral("s5*(c6 d7-)"));
     QCOMPARE(m_service->allIds(), (QRPC::NodeList{2, 3, 4, 5, 6, 7, 8}));
     QCOMPARE(m_log->lines(), QStringList());
 }
