@@ -13,7 +13,9 @@ CommandLine::CommandLine(const QStringList &arguments)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(tr("Shows a scene and its overlays, and hosts modules."));
-    const QCommandLineOption help = parser.addHelpOption();
+    // Qt's own option would come with a second one that lists options of Qt.
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
+                                  tr("Show this help."));
     const QCommandLineOption version = parser.addVersionOption();
     const QCommandLineOption plugin(QStringLiteral("plugin"),
                                     tr("Load this module instead of the editor; may be repeated."),
@@ -23,7 +25,7 @@ CommandLine::CommandLine(const QStringList &arguments)
     const QCommandLineOption picture(
         QStringLiteral("screenshot"),
         tr("Save a picture of the window once all is shown, and quit."), tr("file"));
-    parser.addOptions({plugin, noGl, picture});
+    parser.addOptions({help, plugin, noGl, picture});
     parser.addPositionalArgument(tr("scene"), tr("Scene file to open."), tr("[scene.json]"));
 
     if (!parser.parse(arguments)) {

@@ -3,6 +3,7 @@
 
 #include "viewer/app/MainWindow.h"
 
+#include "host/kxIconManager.h"
 #include "viewer/app/ModulePanels.h"
 
 #include <QApplication>
@@ -23,6 +24,11 @@ constexpr QSize DefaultSize(1600, 1000);
 
 // Raised when docks get other names, so that an old layout is not applied to them.
 constexpr int LayoutVersion = 1;
+
+QIcon icon(const char *name)
+{
+    return kxIconManager::getIcon(name, std::string());
+}
 
 QString geometryKey()
 {
@@ -47,7 +53,7 @@ MainWindow::MainWindow(ViewArea::Background background) : m_viewArea(new ViewAre
     createHelpMenu();
     createStatusBar();
     setScenePath(QString());
-    resize(DefaultSize);
+    useDefaultLayout();
 }
 
 MainWindow::~MainWindow() = default;
@@ -69,10 +75,15 @@ void MainWindow::notify(Severity severity, const QString &text)
 
 void MainWindow::restoreLayout(const QSettings &settings)
 {
-    const bool placed = restoreGeometry(settings.value(geometryKey()).toByteArray());
-    if (!placed)
-        resize(DefaultSize);
+    useDefaultLayout();
+    restoreGeometry(settings.value(geometryKey()).toByteArray());
     m_wantsDefaultSizes = !restoreState(settings.value(stateKey()).toByteArray(), LayoutVersion);
+}
+
+void MainWindow::useDefaultLayout()
+{
+    resize(DefaultSize);
+    m_wantsDefaultSizes = true;
 }
 
 void MainWindow::saveLayout(QSettings *settings) const
@@ -99,7 +110,8 @@ void MainWindow::closeEvent(QCloseEvent *event)
 void MainWindow::createFileMenu()
 {
     QMenu *menu = menuBar()->addMenu(tr("&File"));
-    QAction *open = menu->addAction(tr("&Open Scene…"), this, &MainWindow::chooseScene);
+    QAction *open =
+        menu->addAction(icon("FileOpen"), tr("&Open Scene…"), this, &MainWindow::chooseScene);
     open->setShortcut(QKeySequence::Open);
     open->setObjectName(QStringLiteral("openScene"));
     menu->addSeparator();
@@ -111,7 +123,8 @@ void MainWindow::createFileMenu()
 void MainWindow::createViewMenu()
 {
     QMenu *menu = menuBar()->addMenu(tr("&View"));
-    QAction *reset = menu->addAction(tr("&Reset View"), m_viewArea, &ViewArea::resetView);
+    QAction *reset =
+        menu->addAction(icon("ResetView"), tr("&Reset View"), m_viewArea, &ViewArea::resetView);
     reset->setObjectName(QStringLiteral("resetView"));
     reset->setShortcut(Qt::Key_Home);
     // In lists and text fields the key has a meaning of its own.

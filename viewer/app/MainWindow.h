@@ -39,6 +39,9 @@ public:
     /// ones. To be called once all modules are loaded, before the window is shown.
     void restoreLayout(const QSettings &settings);
 
+    /// Arranges the window as if nothing was remembered.
+    void useDefaultLayout();
+
     /// Writes what restoreLayout() reads.
     void saveLayout(QSettings *settings) const;
 

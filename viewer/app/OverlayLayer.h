@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QWidget>
+
+#include <functional>
+
+class kxOverlayService;
+
+namespace viewer {
+
+/// The transparent widget that shows the overlays above the 3D view and lets the mouse through. It
+/// is drawn by the raster engine, as an export is, and only when the service announces something
+/// visible: several announcements in a row cost one drawing. Owned by the view area.
+class OverlayLayer : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Draws all overlays for a view of `size` pixels with `dpi` dots per inch.
+    using Draw = std::function<void(QPainter *painter, const QSize &size, double dpi)>;
+
+    OverlayLayer(kxOverlayService *service, Draw draw, QWidget *parent = nullptr);
+
+    /// Dots per inch of a view whose pixels are not scaled by the display.
+    static constexpr double Dpi = 96.0;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void redraw();
+
+    const Draw m_draw;
+};
+
+} // namespace viewer

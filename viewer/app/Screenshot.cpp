@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "viewer/app/Screenshot.h"
+
+#include "viewer/app/MainWindow.h"
+
+#include <QDir>
+#include <QImageWriter>
+#include <QTimer>
+
+namespace viewer {
+
+Screenshot::Screenshot(MainWindow *window, const QString &file, QObject *parent)
+    : QObject(parent)
+    , m_window(window)
+    , m_file(file)
+{
+    connect(window->viewArea(), &ViewArea::framePainted, this, [this] {
+        if (m_isDue)
+            return;
+        m_isDue = true;
+        // What the frame has set off, as a new text in the status bar, comes first.
+        QTimer::singleShot(0, this, &Screenshot::take);
+    });
+}
+
+void Screenshot::take()
+{
+    QImageWriter writer(m_file);
+    if (writer.write(m_window->grab().toImage())) {
+        emit finished(QString());
+        return;
+    }
+    emit finished(tr("The picture \"%1\" cannot be written: %2")
+                      .arg(QDir::toNativeSeparators(m_file), writer.errorString()));
+}
+
+} // namespace viewer
