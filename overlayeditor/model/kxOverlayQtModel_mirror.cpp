@@ -172,7 +172,8 @@ void kxOverlayQtModel::nodesRemovedUpdate(const QRPC::NodeList &list)
         if (QStandardItem *item = itemFromId(id))
             items.append(item);
     }
-    for (QStandardItem *item : inOrderOfRemoval(items))
+    const QVector<QStandardItem *> ordered = inOrderOfRemoval(items);
+    for (QStandardItem *item : ordered)
         removeFromParent(item);
 }
 

@@ -239,7 +239,8 @@ void tst_QKXSlider::shouldShowTheSuffix()
 void tst_QKXSlider::shouldSendEachStepOfADragAndItsReleaseOnce()
 {
     QSignalSpy releases(m_slider, &QKXSlider::sliderReleased);
-    connect(m_slider, &QKXSlider::valueChanged, this, [&releases] { QVERIFY(releases.isEmpty()); });
+    connect(m_slider, &QKXSlider::valueChanged, &releases,
+            [&releases] { QVERIFY(releases.isEmpty()); });
     const QPoint start = handlePlace();
     drag(m_handle, start, {start + QPoint(40, 0), start + QPoint(80, 0), start + QPoint(120, 0)});
     QCOMPARE(m_sent.size(), 3);

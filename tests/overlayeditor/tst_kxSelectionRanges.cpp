@@ -51,7 +51,8 @@ QModelIndex tst_kxSelectionRanges::row(int row, int parent) const
 QItemSelection tst_kxSelectionRanges::rows(const QString &list, int parent) const
 {
     QItemSelection selection;
-    for (const QString &range : list.split(' ', Qt::SkipEmptyParts)) {
+    const QStringList ranges = list.split(' ', Qt::SkipEmptyParts);
+    for (const QString &range : ranges) {
         const int top = range.section('-', 0, 0).toInt();
         const int bottom = range.section('-', -1).toInt();
         selection.append(QItemSelectionRange(row(top, parent), row(bottom, parent)));

@@ -31,7 +31,7 @@ public:
     using QMainWindow::QMainWindow;
 
 Q_SIGNALS:
-    void show();
+    void show(); // clazy:exclude=overridden-signal
 };
 
 class Window : public MainWindow
