@@ -23,10 +23,6 @@ struct KXHOST_EXPORT QKXColor
     /// for.
     QKXColor(const QColor &color); // NOLINT(google-explicit-constructor)
 
-    ~QKXColor();
-    QKXColor(const QKXColor &other) = default;
-    QKXColor &operator=(const QKXColor &other) = default;
-
     /// The opaque colour of these parts, rounded to 8 bits a channel. Parts outside their ranges
     /// count as the nearest end, the hue as the same angle within the circle.
     QColor toColor() const;

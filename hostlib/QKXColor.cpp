@@ -52,8 +52,6 @@ QKXColor::QKXColor(const QColor &color)
     hue = range == 0.0 ? 0.0f : float(hueOf(red, green, blue, range));
 }
 
-QKXColor::~QKXColor() = default;
-
 QColor QKXColor::toColor() const
 {
     const double turned = std::fmod(double(hue), 360.0);

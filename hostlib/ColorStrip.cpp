@@ -1,0 +1,135 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "hostlib/ColorStrip.h"
+
+#include <QLinearGradient>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace hostlib {
+
+static constexpr int s_gap = 4;
+static constexpr ColorPart s_parts[] = {ColorPart::Swatch, ColorPart::Hue, ColorPart::Saturation,
+                                        ColorPart::Value};
+
+/// Two colours suffice for saturation and value, which are linear in red, green and blue; the hue
+/// bar shows pure colours, so that it stands still while the others change.
+static QLinearGradient gradientOf(const QKXColor &color, ColorPart part)
+{
+    QLinearGradient gradient(0.0, 0.0, 1.0, 0.0);
+    gradient.setCoordinateMode(QGradient::ObjectMode);
+    const int stops = part == ColorPart::Hue ? 6 : 1;
+    const QKXColor base = part == ColorPart::Hue ? QKXColor(0.0f, 1.0f, 1.0f) : color;
+    for (int stop = 0; stop <= stops; ++stop) {
+        const float share = float(stop) / float(stops);
+        gradient.setColorAt(double(share), ColorStrip::withShare(base, part, share).toColor());
+    }
+    return gradient;
+}
+
+ColorStrip::ColorStrip(const QRect &area) : m_area(area.adjusted(2, 2, -2, -2)) {}
+
+QRect ColorStrip::place(ColorPart part) const
+{
+    const int swatch = std::min(2 * m_area.height(), m_area.width() / 4);
+    if (part == ColorPart::Swatch)
+        return QRect(m_area.topLeft(), QSize(swatch, m_area.height()));
+    const int index = int(part) - int(ColorPart::Hue);
+    const int room = std::max(0, m_area.width() - swatch - 3 * s_gap);
+    const int left = m_area.left() + swatch + s_gap + index * s_gap + index * room / 3;
+    return QRect(left, m_area.top(), (index + 1) * room / 3 - index * room / 3, m_area.height());
+}
+
+ColorPart ColorStrip::partAt(const QPoint &point) const
+{
+    // The gaps belong to the parts beside them: nothing in the strip is dead to the mouse.
+    for (const ColorPart part : s_parts) {
+        if (point.x() <= place(part).right() + s_gap / 2)
+            return part;
+    }
+    return ColorPart::Value;
+}
+
+float ColorStrip::shareAt(ColorPart part, const QPoint &point) const
+{
+    const QRect bar = place(part);
+    const float share = float(point.x() - bar.left()) / float(std::max(1, bar.width() - 1));
+    return std::clamp(share, 0.0f, 1.0f);
+}
+
+bool ColorStrip::isBar(ColorPart part)
+{
+    return part != ColorPart::Swatch && part != ColorPart::None;
+}
+
+float ColorStrip::share(const QKXColor &color, ColorPart part)
+{
+    if (part == ColorPart::Hue)
+        return color.hue / 360.0f;
+    return part == ColorPart::Saturation ? color.saturation : color.value;
+}
+
+QKXColor ColorStrip::withShare(const QKXColor &color, ColorPart part, float share)
+{
+    QKXColor changed = color;
+    if (part == ColorPart::Hue)
+        changed.hue = 360.0f * share;
+    else if (part == ColorPart::Saturation)
+        changed.saturation = share;
+    else
+        changed.value = share;
+    return changed;
+}
+
+void ColorStrip::paint(QPainter &painter, const QPalette &palette, const QKXColor &color,
+                       const Look &look) const
+{
+    painter.save();
+    painter.setOpacity(look.enabled ? 1.0 : 0.35);
+    for (const ColorPart part : s_parts) {
+        if (look.mixed)
+            paintHatching(painter, palette, part);
+        else
+            paintBar(painter, color, part);
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(palette.color(part == look.framed ? QPalette::Highlight : QPalette::Shadow));
+        painter.drawRect(place(part).adjusted(-1, -1, 0, 0));
+        if (look.enabled && !look.mixed && isBar(part))
+            paintMarker(painter, color, part);
+    }
+    painter.restore();
+}
+
+void ColorStrip::paintBar(QPainter &painter, const QKXColor &color, ColorPart part) const
+{
+    if (part == ColorPart::Swatch)
+        painter.fillRect(place(part), color.toColor());
+    else
+        painter.fillRect(place(part), gradientOf(color, part));
+}
+
+void ColorStrip::paintMarker(QPainter &painter, const QKXColor &color, ColorPart part) const
+{
+    const QRect bar = place(part);
+    const int x = bar.left() + qRound(share(color, part) * float(bar.width() - 1));
+    painter.setPen(Qt::black);
+    painter.setBrush(Qt::white);
+    painter.drawRect(QRect(x - 2, bar.top() - 2, 4, bar.height() + 3));
+}
+
+void ColorStrip::paintHatching(QPainter &painter, const QPalette &palette, ColorPart part) const
+{
+    const QRect bar = place(part);
+    painter.save();
+    painter.setClipRect(bar);
+    painter.fillRect(bar, palette.color(QPalette::Base));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(palette.color(QPalette::Mid), 2.0));
+    for (int x = bar.left() - bar.height(); x <= bar.right(); x += 7)
+        painter.drawLine(x, bar.bottom() + 1, x + bar.height(), bar.top());
+    painter.restore();
+}
+
+} // namespace hostlib
