@@ -23,9 +23,10 @@ enum class ColorPart;
 /// full colour dialog. Every edit is live; leaving the dialog with Cancel brings the colour back that
 /// was there before it.
 ///
-/// While the control is marked "multiselect" it shows a hatching in place of the colour; an edit is
-/// then sent even when it gives the colour last shown, and the dialog sends nothing before OK, since
-/// Cancel could not bring the different colours back.
+/// While the control is marked "multiselect" it shows the mixed look in place of the colour, and a
+/// click anywhere, Space or Return open the dialog: a bar would change one part of a colour that
+/// nobody sees. The dialog then sends its colour with OK, even the one last shown, and nothing
+/// before, since Cancel could not bring the different colours back.
 class KXHOST_EXPORT QKXColorManipulator : public QWidget
 {
     Q_OBJECT
@@ -65,7 +66,9 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    hostlib::ColorPart partAt(const QPoint &point) const;
     bool handleKey(int key, int steps);
+    bool handleBarKey(int key, int steps);
     void choose(int distance);
     void edit(const QKXColor &color);
     void editPart(hostlib::ColorPart part, float share);

@@ -18,8 +18,8 @@ class SliderHandle;
 /// a typed or given value may lie outside it on both sides, and the handle then stands at its end.
 /// Dragging moves in line steps, typing is sent when it is committed. The wheel changes the value
 /// only while handle or field has the focus. While the slider is marked "multiselect" its value is
-/// not that of all nodes: an edit is then sent even when it gives the same value, and a click on
-/// the handle that moves nothing is not announced.
+/// not that of all nodes: no handle is drawn, a press anywhere sets the value of its place,
+/// and an edit is sent even when it gives the value last shown.
 class KXHOST_EXPORT QKXSlider : public QWidget
 {
     Q_OBJECT
@@ -64,7 +64,6 @@ Q_SIGNALS:
 
 private:
     void takeAction(int action);
-    void takeRelease();
     void edit(double value);
     void take(double value);
     double stepped(double step) const;

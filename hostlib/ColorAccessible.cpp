@@ -4,7 +4,7 @@
 #include "hostlib/ColorAccessible.h"
 
 #include "host/QKXColorManipulator.h"
-#include "hostlib/multiselect.h"
+#include "host/kxStyle.h"
 
 #include <QColor>
 
@@ -31,7 +31,7 @@ void ColorAccessible::install()
 
 QString ColorAccessible::text(QAccessible::Text kind) const
 {
-    if (kind != QAccessible::Value || isMultiselect(widget()))
+    if (kind != QAccessible::Value || kxStyle::isMultiselect(widget()))
         return QAccessibleWidget::text(kind);
     return static_cast<QKXColorManipulator *>(object())->color().toColor().name();
 }

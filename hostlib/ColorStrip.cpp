@@ -3,6 +3,8 @@
 
 #include "hostlib/ColorStrip.h"
 
+#include "host/kxStyle.h"
+
 #include <QLinearGradient>
 #include <QPainter>
 
@@ -83,20 +85,17 @@ QKXColor ColorStrip::withShare(const QKXColor &color, ColorPart part, float shar
     return changed;
 }
 
-void ColorStrip::paint(QPainter &painter, const QPalette &palette, const QKXColor &color,
-                       const Look &look) const
+void ColorStrip::paint(QPainter &painter, const QKXColor &color, bool enabled,
+                       ColorPart framed) const
 {
     painter.save();
-    painter.setOpacity(look.enabled ? 1.0 : 0.35);
+    painter.setOpacity(enabled ? 1.0 : 0.3);
     for (const ColorPart part : s_parts) {
-        if (look.mixed)
-            paintHatching(painter, palette, part);
-        else
-            paintBar(painter, color, part);
+        paintBar(painter, color, part);
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(palette.color(part == look.framed ? QPalette::Highlight : QPalette::Shadow));
+        painter.setPen(part == framed ? kxStyle::getAccentColor() : QColor(Qt::black));
         painter.drawRect(place(part).adjusted(-1, -1, 0, 0));
-        if (look.enabled && !look.mixed && isBar(part))
+        if (enabled && isBar(part))
             paintMarker(painter, color, part);
     }
     painter.restore();
@@ -117,19 +116,6 @@ void ColorStrip::paintMarker(QPainter &painter, const QKXColor &color, ColorPart
     painter.setPen(Qt::black);
     painter.setBrush(Qt::white);
     painter.drawRect(QRect(x - 2, bar.top() - 2, 4, bar.height() + 3));
-}
-
-void ColorStrip::paintHatching(QPainter &painter, const QPalette &palette, ColorPart part) const
-{
-    const QRect bar = place(part);
-    painter.save();
-    painter.setClipRect(bar);
-    painter.fillRect(bar, palette.color(QPalette::Base));
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(palette.color(QPalette::Mid), 2.0));
-    for (int x = bar.left() - bar.height(); x <= bar.right(); x += 7)
-        painter.drawLine(x, bar.bottom() + 1, x + bar.height(), bar.top());
-    painter.restore();
 }
 
 } // namespace hostlib

@@ -5,7 +5,6 @@
 
 #include "host/QKXColor.h"
 
-#include <QPalette>
 #include <QRect>
 
 class QPainter;
@@ -20,14 +19,6 @@ enum class ColorPart { Swatch, Hue, Saturation, Value, None };
 class ColorStrip
 {
 public:
-    /// How a control is to be drawn, beside its colour.
-    struct Look
-    {
-        bool enabled = true;
-        bool mixed = false;
-        ColorPart framed = ColorPart::None; ///< the bar that the keys work on
-    };
-
     explicit ColorStrip(const QRect &area);
 
     QRect place(ColorPart part) const;
@@ -36,8 +27,8 @@ public:
     /// How far along the bar of `part` a point lies, from 0 to 1; the nearest end beside the bar.
     float shareAt(ColorPart part, const QPoint &point) const;
 
-    void paint(QPainter &painter, const QPalette &palette, const QKXColor &color,
-               const Look &look) const;
+    /// Draws all parts; `framed` is the bar that the keys work on.
+    void paint(QPainter &painter, const QKXColor &color, bool enabled, ColorPart framed) const;
 
     /// True for the parts that stand for one number of a colour.
     static bool isBar(ColorPart part);
@@ -49,7 +40,6 @@ public:
 private:
     void paintBar(QPainter &painter, const QKXColor &color, ColorPart part) const;
     void paintMarker(QPainter &painter, const QKXColor &color, ColorPart part) const;
-    void paintHatching(QPainter &painter, const QPalette &palette, ColorPart part) const;
 
     QRect m_area;
 };

@@ -3,6 +3,7 @@
 
 #include "hostlib/FrameHeader.h"
 
+#include "host/kxStyle.h"
 #include "hostlib/FrameHeaderAccessible.h"
 
 #include <QKeyEvent>
@@ -75,7 +76,7 @@ void FrameHeader::paintEvent(QPaintEvent *)
     const QRectF bar = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
     const bool lit = isEnabled() && (underMouse() || isDown());
     const QColor fill = palette().color(QPalette::Button);
-    painter.setPen(hasFocus() ? QPen(palette().color(QPalette::Highlight)) : Qt::NoPen);
+    painter.setPen(hasFocus() ? QPen(kxStyle::getAccentColor()) : Qt::NoPen);
     painter.setBrush(lit ? fill.lighter(isDown() ? 130 : 115) : fill);
     painter.drawRoundedRect(bar, 3.0, 3.0);
 

@@ -3,9 +3,9 @@
 
 #include "host/QKXColorManipulator.h"
 
+#include "host/kxStyle.h"
 #include "hostlib/ColorAccessible.h"
 #include "hostlib/ColorStrip.h"
-#include "hostlib/multiselect.h"
 
 #include <QColorDialog>
 #include <QHelpEvent>
@@ -83,7 +83,7 @@ void QKXColorManipulator::openDialog()
     m_dialog = new QColorDialog(m_color.toColor(), this);
     m_dialog->setOption(QColorDialog::DontUseNativeDialog);
     m_dialog->setAttribute(Qt::WA_DeleteOnClose);
-    if (hostlib::isMultiselect(this)) {
+    if (kxStyle::isMultiselect(this)) {
         connect(m_dialog, &QColorDialog::colorSelected, this, &QKXColorManipulator::takeFromDialog);
     } else {
         connect(m_dialog, &QColorDialog::currentColorChanged, this,
@@ -98,7 +98,7 @@ bool QKXColorManipulator::event(QEvent *event)
     if (event->type() != QEvent::ToolTip || !toolTip().isEmpty())
         return QWidget::event(event);
     const auto *help = static_cast<QHelpEvent *>(event);
-    QToolTip::showText(help->globalPos(), nameOf(ColorStrip(rect()).partAt(help->pos())), this);
+    QToolTip::showText(help->globalPos(), nameOf(partAt(help->pos())), this);
     return true;
 }
 
@@ -126,7 +126,7 @@ void QKXColorManipulator::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton)
         return QWidget::mousePressEvent(event);
-    m_pressed = ColorStrip(rect()).partAt(event->pos());
+    m_pressed = partAt(event->pos());
     if (!ColorStrip::isBar(m_pressed))
         return;
     m_chosen = m_pressed;
@@ -146,18 +146,33 @@ void QKXColorManipulator::mouseReleaseEvent(QMouseEvent *event)
 void QKXColorManipulator::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    ColorStrip::Look look;
-    look.enabled = isEnabled();
-    look.mixed = hostlib::isMultiselect(this);
-    look.framed = hasFocus() ? m_chosen : ColorPart::None;
-    ColorStrip(rect()).paint(painter, palette(), m_color, look);
+    if (kxStyle::isMultiselect(this)) {
+        kxStyle::drawMixedField(&painter, rect(), isEnabled());
+        kxStyle::drawMixedText(&painter, rect(), isEnabled());
+    } else {
+        const ColorPart framed = hasFocus() ? m_chosen : ColorPart::None;
+        ColorStrip(rect()).paint(painter, m_color, isEnabled(), framed);
+    }
     if (!hasFocus())
         return;
-    painter.setPen(palette().color(QPalette::Highlight));
+    painter.setPen(kxStyle::getAccentColor());
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
+ColorPart QKXColorManipulator::partAt(const QPoint &point) const
+{
+    return kxStyle::isMultiselect(this) ? ColorPart::Swatch : ColorStrip(rect()).partAt(point);
+}
+
 bool QKXColorManipulator::handleKey(int key, int steps)
+{
+    if (key != Qt::Key_Space && key != Qt::Key_Return && key != Qt::Key_Enter)
+        return !kxStyle::isMultiselect(this) && handleBarKey(key, steps);
+    openDialog();
+    return true;
+}
+
+bool QKXColorManipulator::handleBarKey(int key, int steps)
 {
     const float share = ColorStrip::share(m_color, m_chosen);
     const float distance = float(steps) * stepOf(m_chosen);
@@ -180,11 +195,6 @@ bool QKXColorManipulator::handleKey(int key, int steps)
     case Qt::Key_Down:
         choose(1);
         break;
-    case Qt::Key_Space:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        openDialog();
-        break;
     default:
         return false;
     }
@@ -205,7 +215,7 @@ void QKXColorManipulator::edit(const QKXColor &color)
     m_color = color;
     update();
     const QColor now = m_color.toColor();
-    if (now != before || hostlib::isMultiselect(this))
+    if (now != before || kxStyle::isMultiselect(this))
         Q_EMIT colorChanged(float(now.redF()), float(now.greenF()), float(now.blueF()));
 }
 

@@ -3,7 +3,7 @@
 
 #include "host/QKXDoubleSpiner.h"
 
-#include "hostlib/multiselect.h"
+#include "host/kxStyle.h"
 #include "hostlib/numberText.h"
 
 #include <QLineEdit>
@@ -83,7 +83,7 @@ void QKXDoubleSpiner::wheelEvent(QWheelEvent *event)
 
 void QKXDoubleSpiner::sendIfMixed()
 {
-    const bool unsent = m_typed && hostlib::isMultiselect(this);
+    const bool unsent = m_typed && kxStyle::isMultiselect(this);
     m_typed = false;
     if (unsent)
         Q_EMIT valueChanged(value());

@@ -3,6 +3,7 @@
 
 #include "host/QKXSlider.h"
 
+#include "host/kxStyle.h"
 #include "hostlib/SliderParts.h"
 #include "hostlib/multiselect.h"
 #include "hostlib/numberText.h"
@@ -31,7 +32,7 @@ QKXSlider::QKXSlider(QWidget *parent, const char *name)
     setFocusProxy(m_field);
     placeHandle();
     connect(m_handle, &QAbstractSlider::actionTriggered, this, &QKXSlider::takeAction);
-    connect(m_handle, &QAbstractSlider::sliderReleased, this, &QKXSlider::takeRelease);
+    connect(m_handle, &QAbstractSlider::sliderReleased, this, &QKXSlider::sliderReleased);
     connect(m_field, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, &QKXSlider::edit);
 }
 
@@ -97,16 +98,9 @@ void QKXSlider::takeAction(int action)
         edit(valueAt(m_handle->sliderPosition()));
 }
 
-void QKXSlider::takeRelease()
-{
-    // A click that moves nothing would give all nodes the value that is shown for none of them.
-    if (!hostlib::isMultiselect(this))
-        Q_EMIT sliderReleased();
-}
-
 void QKXSlider::edit(double value)
 {
-    if (value == m_value && !hostlib::isMultiselect(this))
+    if (value == m_value && !kxStyle::isMultiselect(this))
         return;
     take(value);
     Q_EMIT valueChanged(value);

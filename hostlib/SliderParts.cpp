@@ -3,6 +3,8 @@
 
 #include "hostlib/SliderParts.h"
 
+#include "host/kxStyle.h"
+
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QStyleOptionSlider>
@@ -10,8 +12,7 @@
 
 namespace hostlib {
 
-SliderHandle::SliderHandle(QWidget *parent)
-    : QSlider(Qt::Horizontal, parent)
+SliderHandle::SliderHandle(QWidget *parent) : QSlider(Qt::Horizontal, parent)
 {
     setFocusPolicy(Qt::StrongFocus);
 }
@@ -21,8 +22,9 @@ SliderHandle::~SliderHandle() = default;
 void SliderHandle::mousePressEvent(QMouseEvent *event)
 {
     // The base class drags from the handle only: the handle is brought under the mouse first.
-    if (event->button() == Qt::LeftButton && !isOnHandle(event->pos()))
-        setSliderPosition(positionAt(event->pos()));
+    const bool mixed = kxStyle::isMultiselect(this);
+    if (event->button() == Qt::LeftButton && (mixed || !isOnHandle(event->pos())))
+        goTo(positionAt(event->pos()), mixed);
     QSlider::mousePressEvent(event);
 }
 
@@ -34,12 +36,20 @@ void SliderHandle::wheelEvent(QWheelEvent *event)
         event->ignore();
 }
 
+void SliderHandle::goTo(int position, bool evenIfThere)
+{
+    if (position != sliderPosition())
+        setSliderPosition(position);
+    else if (evenIfThere)
+        triggerAction(SliderMove);
+}
+
 bool SliderHandle::isOnHandle(const QPoint &point) const
 {
     QStyleOptionSlider option;
     initStyleOption(&option);
-    return style()->hitTestComplexControl(QStyle::CC_Slider, &option, point, this) ==
-           QStyle::SC_SliderHandle;
+    return style()->hitTestComplexControl(QStyle::CC_Slider, &option, point, this)
+           == QStyle::SC_SliderHandle;
 }
 
 int SliderHandle::positionAt(const QPoint &point) const
@@ -55,8 +65,7 @@ int SliderHandle::positionAt(const QPoint &point) const
                                            groove.width() - handle.width(), option.upsideDown);
 }
 
-SliderField::SliderField(QWidget *parent)
-    : QKXDoubleSpiner(parent)
+SliderField::SliderField(QWidget *parent) : QKXDoubleSpiner(parent)
 {
     setRange(-2147483647.0, 2147483647.0);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);

@@ -10,7 +10,7 @@
 namespace hostlib {
 
 /// The handle of a QKXSlider, which owns it. A press beside the handle brings it there and drags
-/// on; the wheel moves it only while it has the focus.
+/// on; while it is marked, and so not drawn, any press does. The wheel moves it only while it has the focus.
 class SliderHandle : public QSlider
 {
     Q_OBJECT
@@ -24,6 +24,7 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
 
 private:
+    void goTo(int position, bool evenIfThere);
     bool isOnHandle(const QPoint &point) const;
     int positionAt(const QPoint &point) const;
 };

@@ -3,6 +3,8 @@
 
 #include "hostlib/multiselect.h"
 
+#include "host/kxStyle.h"
+
 #include <QStyle>
 #include <QVariant>
 #include <QWidget>
@@ -19,14 +21,9 @@ static void mark(QWidget *widget, const QVariant &marking)
     widget->update();
 }
 
-bool hostlib::isMultiselect(const QWidget *widget)
-{
-    return widget->property(s_multiselect).toBool();
-}
-
 void hostlib::handOnMultiselect(const QWidget *outer, std::initializer_list<QWidget *> inner)
 {
-    const QVariant marking = isMultiselect(outer) ? QVariant(true) : QVariant();
+    const QVariant marking = kxStyle::isMultiselect(outer) ? QVariant(true) : QVariant();
     for (QWidget *widget : inner)
         mark(widget, marking);
 }

@@ -37,6 +37,9 @@ private Q_SLOTS:
     void shouldBringTheFormerColorBackOnCancel();
     void shouldOpenOneDialogOnly();
     void shouldSendNothingBeforeOkWhileMixed();
+    void shouldOpenTheDialogFromAnywhereWhileMixed_data();
+    void shouldOpenTheDialogFromAnywhereWhileMixed();
+    void shouldNotMoveABarWhileMixed();
     void shouldSendAnEditOfAMixedColorEvenWhenItIsTheOneShown();
     void shouldLookUnlikeWhenMixedDisabledAndFocused();
     void shouldTellAssistiveToolsItsColor();
@@ -258,14 +261,42 @@ void tst_QKXColorManipulator::shouldSendNothingBeforeOkWhileMixed()
     QCOMPARE(m_sent, QVector<QColor>({QColor(255, 0, 0)}));
 }
 
+void tst_QKXColorManipulator::shouldOpenTheDialogFromAnywhereWhileMixed_data()
+{
+    QTest::addColumn<QPoint>("place");
+    QTest::newRow("swatch") << m_swatch;
+    QTest::newRow("hue") << m_hue;
+    QTest::newRow("value") << m_value;
+}
+
+void tst_QKXColorManipulator::shouldOpenTheDialogFromAnywhereWhileMixed()
+{
+    QFETCH(QPoint, place);
+    m_control->setProperty("multiselect", true);
+    QTest::mouseClick(m_control.get(), Qt::LeftButton, Qt::NoModifier, place);
+    QVERIFY(dialog());
+    QVERIFY(m_sent.isEmpty());
+}
+
+void tst_QKXColorManipulator::shouldNotMoveABarWhileMixed()
+{
+    m_control->setProperty("multiselect", true);
+    for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Home, Qt::Key_End})
+        QTest::keyClick(m_control.get(), key);
+    QVERIFY(m_sent.isEmpty());
+    QCOMPARE(m_control->color().toColor(), QColor(51, 102, 51));
+}
+
 void tst_QKXColorManipulator::shouldSendAnEditOfAMixedColorEvenWhenItIsTheOneShown()
 {
-    m_control->setColor(QColor(255, 0, 0));
-    QTest::keyClick(m_control.get(), Qt::Key_Home);
+    m_control->openDialog();
+    dialog()->accept();
+    QTRY_VERIFY(!dialog());
     QVERIFY(m_sent.isEmpty());
     m_control->setProperty("multiselect", true);
-    QTest::keyClick(m_control.get(), Qt::Key_Home);
-    QCOMPARE(m_sent, QVector<QColor>({QColor(255, 0, 0)}));
+    m_control->openDialog();
+    dialog()->accept();
+    QCOMPARE(m_sent, QVector<QColor>({QColor(51, 102, 51)}));
 }
 
 void tst_QKXColorManipulator::shouldLookUnlikeWhenMixedDisabledAndFocused()

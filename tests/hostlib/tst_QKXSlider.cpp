@@ -51,7 +51,7 @@ private Q_SLOTS:
     void shouldKeepWhatIsBeingTypedWhenAnEqualValueIsSet();
     void shouldHandTheMarkingToItsPartsOnChangeOnly();
     void shouldSendAnEditOfAMixedValueEvenWhenItIsTheOneShown();
-    void shouldNotAnnounceAClickThatMovesNothingWhileMixed();
+    void shouldSendThePlaceOfAPressWhileMixed();
 
 private:
     void echo(double value);
@@ -385,13 +385,22 @@ void tst_QKXSlider::shouldSendAnEditOfAMixedValueEvenWhenItIsTheOneShown()
     QCOMPARE(m_sent, QVector<double>({0.0, 0.0}));
 }
 
-void tst_QKXSlider::shouldNotAnnounceAClickThatMovesNothingWhileMixed()
+void tst_QKXSlider::shouldSendThePlaceOfAPressWhileMixed()
 {
-    m_slider->setProperty("multiselect", true);
-    QSignalSpy releases(m_slider, &QKXSlider::sliderReleased);
-    QTest::mouseClick(m_handle, Qt::LeftButton, Qt::NoModifier, handlePlace());
-    QCOMPARE(releases.size(), 0);
+    m_slider->setValue(100.0);
+    m_sent.clear();
+    const QPoint beside = handlePlace() + QPoint(3, 0); // on the handle, if it were drawn
+    QTest::mouseClick(m_handle, Qt::LeftButton, Qt::NoModifier, beside);
     QVERIFY(m_sent.isEmpty());
+
+    m_slider->setProperty("multiselect", true);
+    m_slider->propagateMultiselectProperty();
+    QTest::mouseClick(m_handle, Qt::LeftButton, Qt::NoModifier, beside);
+    QCOMPARE(m_sent.size(), 1);
+    QVERIFY(m_sent.last() > 100.0 && m_sent.last() < 105.0);
+    QTest::mouseClick(m_handle, Qt::LeftButton, Qt::NoModifier, handlePlace());
+    QCOMPARE(m_sent.size(), 2);
+    QCOMPARE(m_sent.last(), m_sent.first());
 }
 
 KX_TEST_MAIN(tst_QKXSlider)
