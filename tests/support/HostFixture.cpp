@@ -10,6 +10,12 @@
 
 #include <stdexcept>
 
+class HostFixture::Base : public kxBaseService
+{
+public:
+    using QObject::receivers;
+};
+
 class HostFixture::Controller : public kxControllerService
 {
 public:
@@ -102,7 +108,7 @@ private:
 
 HostFixture::HostFixture()
     : m_mainWindow(std::make_unique<QMainWindow>())
-    , m_base(std::make_unique<kxBaseService>())
+    , m_base(std::make_unique<Base>())
     , m_controller(std::make_unique<Controller>(this))
     , m_mainWindowService(std::make_unique<MainWindow>(this))
     , m_platform(std::make_unique<Platform>(this))
@@ -134,6 +140,11 @@ HostFixture::~HostFixture()
 void HostFixture::announceInit()
 {
     Q_EMIT m_base->init();
+}
+
+int HostFixture::initReceivers() const
+{
+    return m_base->receivers(SIGNAL(init()));
 }
 
 void HostFixture::note(const QString &call)

@@ -52,6 +52,9 @@ public:
     /// Emits what a host emits once all modules are loaded.
     void announceInit();
 
+    /// How many slots wait for that.
+    int initReceivers() const;
+
     /// @name Answers of the services, free to be changed before the module asks
     /// @{
     bool headless = false;
@@ -66,6 +69,7 @@ public:
     void throwAt(const QString &call) { m_throwingCall = call; }
 
 private:
+    class Base;
     class Controller;
     class MainWindow;
     class Platform;
@@ -77,7 +81,7 @@ private:
     QString m_throwingCall;
     QList<Registration> m_registrations;
     std::unique_ptr<QMainWindow> m_mainWindow;
-    std::unique_ptr<kxBaseService> m_base;
+    std::unique_ptr<Base> m_base;
     std::unique_ptr<Controller> m_controller;
     std::unique_ptr<MainWindow> m_mainWindowService;
     std::unique_ptr<Platform> m_platform;
