@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "viewer/render/ImageCache.h"
+
+#include <QImageReader>
+
+namespace viewer {
+
+namespace {
+
+constexpr int ScalableHeight = 1024; // drawings without pixels are read this high
+constexpr int LargestWidth = 8192;
+constexpr int KeptSizes = 8;
+
+bool hasNoPixels(const QImageReader &reader)
+{
+    return reader.format().startsWith("svg");
+}
+
+QImage readImage(const QString &path)
+{
+    QImageReader reader(path);
+    reader.setAutoTransform(true);
+    if (hasNoPixels(reader) && !reader.size().isEmpty())
+        reader.setScaledSize(
+            reader.size().scaled(LargestWidth, ScalableHeight, Qt::KeepAspectRatio));
+    return reader.read().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
+} // namespace
+
+ImageCache::Entry &ImageCache::entry(const QString &path)
+{
+    auto it = m_entries.find(path);
+    if (it == m_entries.end()) {
+        ++m_readCount;
+        it = m_entries.insert(path, {readImage(path), {}});
+    }
+    return *it;
+}
+
+QImage ImageCache::image(const QString &path)
+{
+    return entry(path).image;
+}
+
+QImage ImageCache::scaledImage(const QString &path, const QSize &size)
+{
+    Entry &found = entry(path);
+    if (found.image.isNull())
+        return {};
+    for (const QImage &scaled : qAsConst(found.scaled)) {
+        if (scaled.size() == size)
+            return scaled;
+    }
+    if (found.scaled.size() == KeptSizes)
+        found.scaled.removeFirst();
+    found.scaled.append(found.image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    return found.scaled.constLast();
+}
+
+void ImageCache::forget(const QString &path)
+{
+    m_entries.remove(path);
+}
+
+} // namespace viewer

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QHash>
+#include <QImage>
+#include <QString>
+#include <QVector>
+
+namespace viewer {
+
+/// Reads image files and keeps the pictures: each file is read once, whether it can be read or not,
+/// until it is forgotten. Owned by the application, which connects forget() to the service's
+/// imageFileSet(). GUI thread only.
+class ImageCache
+{
+public:
+    /// The picture; a null image when the file is missing or cannot be read.
+    QImage image(const QString &path);
+
+    /// The picture in exactly this size. The last few sizes of each file are kept.
+    QImage scaledImage(const QString &path, const QSize &size);
+
+    /// Makes the next call read the file anew.
+    void forget(const QString &path);
+
+    /// How often a file was read.
+    int readCount() const { return m_readCount; }
+
+private:
+    struct Entry
+    {
+        QImage image;
+        QVector<QImage> scaled; // the oldest first
+    };
+
+    Entry &entry(const QString &path);
+
+    QHash<QString, Entry> m_entries;
+    int m_readCount = 0;
+};
+
+} // namespace viewer

@@ -1,0 +1,147 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "viewer/render/OverlayPainter.h"
+
+#include <QFileInfo>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace viewer {
+
+using QRPC::NodeId;
+
+namespace {
+
+/// Stands for an image that cannot be read: a dashed frame with the file's name.
+void paintPlaceholder(QPainter &painter, const QString &path, const QRectF &box)
+{
+    const double unit = std::min(box.height(), box.width());
+    const double line = std::max(1.0, unit / 60.0);
+    const QRectF frame = box.adjusted(line / 2, line / 2, -line / 2, -line / 2);
+    painter.save();
+    painter.setBrush(QColor(32, 34, 38, 200));
+    painter.setPen(QPen(QColor(240, 150, 60), line, Qt::DashLine));
+    painter.drawRect(frame);
+    painter.restore();
+
+    const TextBlock name(QFileInfo(path).fileName(), QStringLiteral("DejaVu Sans"));
+    const QSizeF size = name.size();
+    const double lineHeight = std::min(unit / 5.0, 0.9 * box.width() / size.width());
+    QRectF place(QPointF(), size * lineHeight);
+    place.moveCenter(box.center());
+    name.draw(&painter, place, QColor(240, 150, 60), 0.5);
+}
+
+} // namespace
+
+OverlayPainter::OverlayPainter(const Scene &scene, ImageCache &images)
+    : m_scene(scene)
+    , m_images(images)
+{
+}
+
+void OverlayPainter::paint(QPainter &painter, const QSize &size, double dpi)
+{
+    const ViewGeometry view{size, dpi};
+    painter.save();
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing
+                           | QPainter::SmoothPixmapTransform);
+    std::vector<NodeId> pending{Scene::RootId};
+    while (!pending.empty()) {
+        const Node &node = *m_scene.find(pending.back());
+        pending.pop_back();
+        if (!node.enabled)
+            continue;
+        if (node.isOverlay())
+            paintOverlay(painter, node, view);
+        pending.insert(pending.end(), node.children.rbegin(), node.children.rend());
+    }
+    painter.restore();
+    forgetRemovedTexts();
+}
+
+QRectF OverlayPainter::boxOf(NodeId node, const QSize &size, double dpi)
+{
+    const Node *found = m_scene.find(node);
+    return found && found->isOverlay() ? box(*found, {size, dpi}) : QRectF();
+}
+
+QRectF OverlayPainter::box(const Node &node, const ViewGeometry &view)
+{
+    const Overlay &overlay = node.overlay;
+    const double height = heightInPixels(overlay, view);
+    const QSizeF proportions =
+        overlay.isText() ? textOf(node).size() : imageProportions(overlay.image);
+    const QSizeF size = proportions * height;
+    return size.isEmpty() ? QRectF() : placeBox(overlay, size, view);
+}
+
+const TextBlock &OverlayPainter::textOf(const Node &node)
+{
+    CachedText &cached = m_texts[node.id];
+    const Overlay &overlay = node.overlay;
+    if (!cached.block || cached.text != overlay.text || cached.family != overlay.font) {
+        cached = {overlay.text, overlay.font,
+                  std::make_unique<TextBlock>(overlay.text, overlay.font)};
+        ++m_layoutCount;
+    }
+    return *cached.block;
+}
+
+/// Width and height of the picture for a height of 1; of the placeholder where there is none.
+QSizeF OverlayPainter::imageProportions(const QString &path)
+{
+    if (path.isEmpty())
+        return {};
+    const QSizeF size = m_images.image(path).size();
+    return size.isEmpty() ? QSizeF(16.0 / 9.0, 1.0) : QSizeF(size.width() / size.height(), 1.0);
+}
+
+void OverlayPainter::paintOverlay(QPainter &painter, const Node &node, const ViewGeometry &view)
+{
+    const QRectF area = box(node, view);
+    const double margin = area.height(); // at least what a background adds
+    const QRectF reach = area.adjusted(-margin, -margin, margin, margin);
+    if (area.isEmpty() || !reach.intersects(QRectF(QPointF(), view.size)))
+        return;
+    if (node.overlay.isText())
+        paintText(painter, node, area);
+    else
+        paintImage(painter, node.overlay.image, area);
+}
+
+void OverlayPainter::paintText(QPainter &painter, const Node &node, const QRectF &box)
+{
+    const Overlay &overlay = node.overlay;
+    const TextBlock &block = textOf(node);
+    const QColor background = backgroundColor(overlay);
+    if (background.isValid() && background.alpha() > 0)
+        painter.fillRect(backgroundBox(box, box.height() / block.size().height()), background);
+    if (overlay.fontColor.isValid())
+        block.draw(&painter, box, overlay.fontColor, std::clamp(overlay.position.x(), 0.0, 1.0));
+}
+
+void OverlayPainter::paintImage(QPainter &painter, const QString &path, const QRectF &box)
+{
+    const QImage image = m_images.image(path);
+    const QSize pixels = box.size().toSize().expandedTo(QSize(1, 1));
+    if (image.isNull())
+        paintPlaceholder(painter, path, box);
+    else if (pixels.height() > image.height())
+        painter.drawImage(box, image);
+    else // filtered as a whole and put on whole pixels, so that fine lines stay sharp
+        painter.drawImage(box.topLeft().toPoint(), m_images.scaledImage(path, pixels));
+}
+
+void OverlayPainter::forgetRemovedTexts()
+{
+    // Sweeping costs a walk over all of them; it is due when at least half of them are gone.
+    if (m_texts.size() < 2 * std::size_t(m_scene.nodeCount()))
+        return;
+    for (auto it = m_texts.begin(); it != m_texts.end();)
+        it = m_scene.find(it->first) ? std::next(it) : m_texts.erase(it);
+}
+
+} // namespace viewer

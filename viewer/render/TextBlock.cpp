@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "viewer/render/TextBlock.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace viewer {
+
+namespace {
+
+/// The font that all layouts are made in. It is large, so that rounding to its pixels vanishes, and
+/// not hinted, so that glyphs scale.
+QFont referenceFont(const QString &family)
+{
+    QFont font(family);
+    font.setPixelSize(200);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    font.setStyleStrategy(QFont::StyleStrategy(QFont::PreferAntialias | QFont::ForceOutline));
+    return font;
+}
+
+std::unique_ptr<QTextLayout> layOut(const QString &line, const QFont &font)
+{
+    auto layout = std::make_unique<QTextLayout>(line, font);
+    QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute); // also where the text runs leftwards
+    option.setWrapMode(QTextOption::NoWrap);
+    layout->setTextOption(option);
+    layout->setCacheEnabled(true);
+    layout->beginLayout();
+    layout->createLine();
+    layout->endLayout();
+    return layout;
+}
+
+double widthOf(const QTextLayout &line)
+{
+    return line.lineCount() > 0 ? line.lineAt(0).horizontalAdvance() : 0.0;
+}
+
+} // namespace
+
+TextBlock::TextBlock(const QString &text, const QString &family)
+{
+    const QFont font = referenceFont(family);
+    m_lineHeight = QFontMetricsF(font).ascent() + QFontMetricsF(font).descent();
+    double width = 0.0;
+    const QStringList lines = text.split(QLatin1Char('\n'));
+    for (const QString &line : lines) {
+        m_lines.push_back(layOut(line, font));
+        width = std::max(width, widthOf(*m_lines.back()));
+    }
+    m_size = QSizeF(width / m_lineHeight, lines.size());
+}
+
+void TextBlock::draw(QPainter *painter, const QRectF &box, const QColor &color,
+                     double alignment) const
+{
+    const double scale = box.height() / (double(m_lines.size()) * m_lineHeight);
+    const double width = m_size.width() * m_lineHeight;
+    const double ascent = QFontMetricsF(m_lines.front()->font()).ascent();
+    painter->save();
+    painter->translate(box.topLeft());
+    painter->scale(scale, scale);
+    painter->setPen(color);
+    double top = 0.0;
+    for (const std::unique_ptr<QTextLayout> &line : m_lines) {
+        // A fallback font may stand higher than the family; the baseline stays where it is.
+        const double rise = line->lineCount() > 0 ? line->lineAt(0).ascent() - ascent : 0.0;
+        line->draw(painter, QPointF(alignment * (width - widthOf(*line)), top - rise));
+        top += m_lineHeight;
+    }
+    painter->restore();
+}
+
+} // namespace viewer
