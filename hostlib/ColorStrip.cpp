@@ -4,6 +4,7 @@
 #include "hostlib/ColorStrip.h"
 
 #include "host/kxStyle.h"
+#include "hostlib/kxStyleColors.h"
 
 #include <QLinearGradient>
 #include <QPainter>
@@ -12,7 +13,9 @@
 
 namespace hostlib {
 
-static constexpr int s_gap = 4;
+static constexpr int s_gap = 10;
+static constexpr int s_inset = 3; // room for the focus frame
+static constexpr int s_swatchWidth = 28;
 static constexpr ColorPart s_parts[] = {ColorPart::Swatch, ColorPart::Hue, ColorPart::Saturation,
                                         ColorPart::Value};
 
@@ -31,11 +34,14 @@ static QLinearGradient gradientOf(const QKXColor &color, ColorPart part)
     return gradient;
 }
 
-ColorStrip::ColorStrip(const QRect &area) : m_area(area.adjusted(2, 2, -2, -2)) {}
+ColorStrip::ColorStrip(const QRect &area)
+    : m_area(area.adjusted(s_inset, s_inset, -s_inset, -s_inset))
+{
+}
 
 QRect ColorStrip::place(ColorPart part) const
 {
-    const int swatch = std::min(2 * m_area.height(), m_area.width() / 4);
+    const int swatch = std::min(s_swatchWidth, m_area.width() / 4);
     if (part == ColorPart::Swatch)
         return QRect(m_area.topLeft(), QSize(swatch, m_area.height()));
     const int index = int(part) - int(ColorPart::Hue);
@@ -93,7 +99,7 @@ void ColorStrip::paint(QPainter &painter, const QKXColor &color, bool enabled,
     for (const ColorPart part : s_parts) {
         paintBar(painter, color, part);
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(part == framed ? kxStyle::getAccentColor() : QColor(Qt::black));
+        painter.setPen(part == framed ? kxStyle::getAccentColor() : QColor(kxStyleColors::border));
         painter.drawRect(place(part).adjusted(-1, -1, 0, 0));
         if (enabled && isBar(part))
             paintMarker(painter, color, part);

@@ -10,6 +10,7 @@
 #include <QColorDialog>
 #include <QHelpEvent>
 #include <QPainter>
+#include <QStyleOptionFocusRect>
 #include <QToolTip>
 
 #include <algorithm>
@@ -155,8 +156,9 @@ void QKXColorManipulator::paintEvent(QPaintEvent *)
     }
     if (!hasFocus())
         return;
-    painter.setPen(kxStyle::getAccentColor());
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    QStyleOptionFocusRect frame;
+    frame.initFrom(this);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, this);
 }
 
 ColorPart QKXColorManipulator::partAt(const QPoint &point) const
