@@ -7,6 +7,8 @@
 
 #include <QPainter>
 
+#include <cmath>
+
 namespace viewer {
 
 namespace {
@@ -21,13 +23,18 @@ void paintWall(QPainter *painter, const QRectF &area)
     wall.setColorAt(1, StudioColors::below());
     painter->fillRect(area, wall);
 
-    QRadialGradient glow(area.center(), qMax(area.width(), area.height()) * 0.55);
-    QColor light = StudioColors::glow().lighter(200);
-    light.setAlphaF(0.42);
-    glow.setColorAt(0, light);
-    light.setAlphaF(0);
-    glow.setColorAt(1, light);
+    // Light adds up; the stops follow the bell curve of the 3D view's wall.
+    QRadialGradient glow(area.width() * 0.5, area.height() * 0.44, area.height());
+    const QColor light = StudioColors::glow();
+    for (qreal reach = 0; reach < 1.05; reach += 0.1) {
+        const qreal fall = std::exp(-reach * reach * 3.2);
+        glow.setColorAt(
+            qMin(reach, 1.0),
+            QColor::fromRgbF(light.redF() * fall, light.greenF() * fall, light.blueF() * fall));
+    }
+    painter->setCompositionMode(QPainter::CompositionMode_Plus);
     painter->fillRect(area, glow);
+    painter->setCompositionMode(QPainter::CompositionMode_SourceOver);
 }
 
 // The floor begins softly, as where paper is rolled from wall to floor.
@@ -37,9 +44,9 @@ void paintFloor(QPainter *painter, const QRectF &area)
     QColor shade(0, 0, 0);
     shade.setAlphaF(0);
     floor.setColorAt(0, shade);
-    shade.setAlphaF(0.22);
+    shade.setAlphaF(0.16);
     floor.setColorAt(0.35, shade);
-    shade.setAlphaF(0.05);
+    shade.setAlphaF(0.02);
     floor.setColorAt(1, shade);
     painter->fillRect(area, floor);
 }

@@ -116,7 +116,7 @@ void MainWindow::createFileMenu()
     open->setObjectName(QStringLiteral("openScene"));
     menu->addSeparator();
     QAction *quit = menu->addAction(tr("&Quit"), this, &QWidget::close);
-    quit->setShortcut(Qt::CTRL | Qt::Key_Q);
+    quit->setShortcut(QKeySequence::Quit);
     quit->setMenuRole(QAction::QuitRole);
 }
 

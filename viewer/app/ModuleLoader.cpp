@@ -30,7 +30,7 @@ QString ModuleLoader::load(const QString &file)
         return tr("The module \"%1\" cannot be loaded: %2").arg(shown, library.errorString());
     const auto entry = library.resolve("initPlugin");
     if (!entry)
-        return tr("\"%1\" is not a module: it has no entry \"initPlugin\".").arg(shown);
+        return tr(R"("%1" is not a module: it has no entry "initPlugin".)").arg(shown);
     try {
         entry();
     } catch (const std::exception &problem) {

@@ -40,7 +40,7 @@ int callsOf(const QString &file)
 
 QString tst_ModuleLoader::write(const QByteArray &content)
 {
-    const QString path = m_folder.filePath(QStringLiteral("text.so"));
+    QString path = m_folder.filePath(QStringLiteral("text.so"));
     QFile file(path);
     if (file.open(QIODevice::WriteOnly))
         file.write(content);

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+// A module with a window that writes down, in the application's property "journal", what its host
+// does and when.
+
+#include "host/kxKernelServiceFactory.h"
+#include "host/kxMainWindowService.h"
+#include "host/kxOverlayService.h"
+
+#include <QCoreApplication>
+#include <QIcon>
+#include <QVariant>
+#include <QWidget>
+
+namespace {
+
+template<class T>
+T *service()
+{
+    return kxKernelServiceFactory::the()->getService<T>();
+}
+
+void note(const char *event)
+{
+    const QStringList journal = qApp->property("journal").toStringList();
+    qApp->setProperty("journal", journal + QStringList(QString::fromLatin1(event)));
+}
+
+} // namespace
+
+extern "C" Q_DECL_EXPORT void initPlugin()
+{
+    note("initPlugin");
+    auto *windows = service<kxMainWindowService>();
+    auto *window = new QWidget(windows->getMainWindow());
+    windows->registerModule("Journal", "Scene", window, QString(), QIcon(), "Journal", 0);
+    QObject::connect(service<kxOverlayService>(), &kxOverlayService::modelReset, window,
+                     [] { note("modelReset"); });
+    QObject::connect(service<kxBaseService>(), &kxBaseService::init, window, [] { note("init"); });
+    // What goes with the window still finds the services.
+    QObject::connect(window, &QObject::destroyed,
+                     [] { note(service<kxOverlayService>() ? "gone" : "gone too late"); });
+}

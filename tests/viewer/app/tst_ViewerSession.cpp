@@ -1,0 +1,279 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "viewer/app/ViewerSession.h"
+
+#include "tests/support/KxTest.h"
+#include "viewer/app/ModulePanels.h"
+#include "viewer/app/OverlayLayer.h"
+
+#include <QDockWidget>
+#include <QPainter>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QStatusBar>
+#include <QTemporaryDir>
+
+using namespace viewer;
+
+class tst_ViewerSession : public KxTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() override;
+    void shouldLoadModulesThenTheSceneThenTellThatAllIsReady();
+    void shouldDestroyTheWindowWhileServicesAreThere();
+    void shouldRunWithoutItsModules();
+    void shouldShowTheScene();
+    void shouldDrawTheSamePixelsAsAnExport();
+    void shouldReadAnImageAnewWhenItsPathIsSet();
+    void shouldLeaveTheOpenSceneWhenAFileIsBad_data();
+    void shouldLeaveTheOpenSceneWhenAFileIsBad();
+    void shouldWarnOfMissingImages();
+    void shouldShortenManyWarnings();
+    void shouldTakeOldNoticesAwayWhenTheUserOpensAScene();
+    void shouldKeepTheLayoutForTheNextRun();
+    void shouldLeaveAPictureAndQuit();
+    void shouldFailWhenThePictureCannotBeWritten();
+
+private:
+    CommandLine line(const QStringList &arguments) const;
+    QString write(const QString &name, const QByteArray &content) const;
+    QString goodScene() const;
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+namespace {
+
+QByteArray scene(const QByteArray &overlays)
+{
+    return R"({"format": "overlay-scene", "version": 1, "overlays": [)" + overlays + "]}";
+}
+
+QByteArray imageOverlay(const QByteArray &path)
+{
+    return R"({"kind": "overlay", "name": "Image", "type": "image", "sizeType": "relative",)"
+           R"( "size": 0.5, "image": ")"
+           + path + "\"}";
+}
+
+QStringList notices(const ViewerSession &session)
+{
+    return session.window()->viewArea()->notices()->texts();
+}
+
+QImage pictureOf(const ViewerSession &session)
+{
+    auto *layer = session.window()->findChild<OverlayLayer *>();
+    QImage image(layer->size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    layer->render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
+    return image;
+}
+
+} // namespace
+
+void tst_ViewerSession::init()
+{
+    KxTest::init();
+    m_folder = std::make_unique<QTemporaryDir>();
+    qApp->setProperty("journal", QVariant());
+}
+
+CommandLine tst_ViewerSession::line(const QStringList &arguments) const
+{
+    return CommandLine(QStringList({"overlay-viewer", "--no-gl", "--plugin", PLUGIN_JOURNAL})
+                       + arguments);
+}
+
+QString tst_ViewerSession::write(const QString &name, const QByteArray &content) const
+{
+    QFile file(m_folder->filePath(name));
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size()
+               ? file.fileName()
+               : QString();
+}
+
+QString tst_ViewerSession::goodScene() const
+{
+    return write("good.json", scene(R"({"kind": "overlay", "name": "Hello", "type": "text",)"
+                                    R"( "text": "Hello", "size": 40})"));
+}
+
+void tst_ViewerSession::shouldLoadModulesThenTheSceneThenTellThatAllIsReady()
+{
+    ViewerSession session(line({goodScene()}), nullptr);
+    session.start();
+    QCOMPARE(qApp->property("journal").toStringList(),
+             QStringList({"initPlugin", "modelReset", "init"}));
+}
+
+void tst_ViewerSession::shouldDestroyTheWindowWhileServicesAreThere()
+{
+    {
+        ViewerSession session(line({}), nullptr);
+        session.start();
+    }
+    QCOMPARE(qApp->property("journal").toStringList(), QStringList({"initPlugin", "init", "gone"}));
+}
+
+void tst_ViewerSession::shouldRunWithoutItsModules()
+{
+    const CommandLine missing({"overlay-viewer", "--no-gl", "--plugin", "/no/such/module.so"});
+    ViewerSession session(missing, nullptr);
+    session.start();
+    QVERIFY(session.window()->isVisible());
+    QCOMPARE(notices(session).size(), 1);
+    QVERIFY(notices(session).constFirst().contains("/no/such/module.so"));
+    QVERIFY(session.window()->statusBar()->currentMessage().contains("/no/such/module.so"));
+    QVERIFY(session.openScene(goodScene()));
+}
+
+void tst_ViewerSession::shouldShowTheScene()
+{
+    ViewerSession session(line({goodScene()}), nullptr);
+    session.start();
+    OverlayService *overlays = session.overlays();
+    QCOMPARE(overlays->getName(overlays->getChild(overlays->getRootNode(), 0)), QString("Hello"));
+    QVERIFY(session.window()->windowTitle().startsWith("good.json"));
+    QCOMPARE(notices(session), QStringList());
+}
+
+void tst_ViewerSession::shouldDrawTheSamePixelsAsAnExport()
+{
+    ViewerSession session(line({goodScene()}), nullptr);
+    session.start();
+    const QImage shown = pictureOf(session);
+    QImage exported(shown.size(), QImage::Format_ARGB32_Premultiplied);
+    exported.fill(Qt::transparent);
+    ImageCache images;
+    OverlayPainter overlayPainter(session.overlays()->scene(), images);
+    QPainter painter(&exported);
+    overlayPainter.paint(painter, exported.size(), 96);
+    painter.end();
+    QCOMPARE(shown, exported);
+    exported.fill(Qt::transparent);
+    QVERIFY(shown != exported);
+}
+
+void tst_ViewerSession::shouldReadAnImageAnewWhenItsPathIsSet()
+{
+    const QString path = m_folder->filePath("colour.png");
+    QImage file(8, 8, QImage::Format_RGB32);
+    file.fill(Qt::red);
+    QVERIFY(file.save(path));
+    ViewerSession session(line({write("image.json", scene(imageOverlay("colour.png")))}), nullptr);
+    session.start();
+    const auto middle = [&session] {
+        const QImage picture = pictureOf(session);
+        return picture.pixelColor(picture.rect().center());
+    };
+    QCOMPARE(middle(), QColor(Qt::red));
+    file.fill(Qt::blue);
+    QVERIFY(file.save(path));
+    OverlayService *overlays = session.overlays();
+    const QRPC::NodeId node = overlays->getChild(overlays->getRootNode(), 0);
+    overlays->setImage({node}, overlays->getImage(node));
+    QCOMPARE(middle(), QColor(Qt::blue));
+}
+
+void tst_ViewerSession::shouldLeaveTheOpenSceneWhenAFileIsBad_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("place");
+    QTest::newRow("no JSON") << QByteArray("{\"format\": ") << "bad.json";
+    QTest::newRow("wrong value") << scene(R"({"kind": "overlay", "type": "text", "size": "big"})")
+                                 << "/overlays/0/size";
+    QTest::newRow("missing") << QByteArray() << "missing.json";
+}
+
+void tst_ViewerSession::shouldLeaveTheOpenSceneWhenAFileIsBad()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, place);
+    const QString bad =
+        content.isEmpty() ? m_folder->filePath("missing.json") : write("bad.json", content);
+    ViewerSession session(line({goodScene()}), nullptr);
+    session.start();
+    QSignalSpy resets(session.overlays(), &kxOverlayService::modelReset);
+
+    QVERIFY(!session.openScene(bad));
+
+    QCOMPARE(resets.size(), 0);
+    OverlayService *overlays = session.overlays();
+    QCOMPARE(overlays->getChildCount(overlays->getRootNode()), 1);
+    QVERIFY(session.window()->windowTitle().startsWith("good.json"));
+    QCOMPARE(notices(session).size(), 1);
+    QVERIFY2(notices(session).constFirst().contains(bad),
+             qPrintable(notices(session).constFirst()));
+    QVERIFY2(notices(session).constFirst().contains(place),
+             qPrintable(notices(session).constFirst()));
+}
+
+void tst_ViewerSession::shouldWarnOfMissingImages()
+{
+    ViewerSession session(line({write("image.json", scene(imageOverlay("none.png")))}), nullptr);
+    session.start();
+    QVERIFY(session.window()->windowTitle().startsWith("image.json"));
+    QCOMPARE(notices(session).size(), 1);
+    QVERIFY(notices(session).constFirst().contains("none.png"));
+}
+
+void tst_ViewerSession::shouldShortenManyWarnings()
+{
+    QByteArrayList overlays;
+    for (int i = 0; i < 10; ++i)
+        overlays.append(imageOverlay("none" + QByteArray::number(i) + ".png"));
+    ViewerSession session(line({write("many.json", scene(overlays.join(',')))}), nullptr);
+    session.start();
+    const QStringList lines = notices(session).constFirst().split('\n');
+    QCOMPARE(lines.size(), 7);
+    QVERIFY(lines.at(5).contains("none5.png"));
+    QVERIFY2(lines.at(6).contains('4'), qPrintable(lines.at(6)));
+}
+
+void tst_ViewerSession::shouldTakeOldNoticesAwayWhenTheUserOpensAScene()
+{
+    ViewerSession session(line({m_folder->filePath("missing.json")}), nullptr);
+    session.start();
+    QCOMPARE(notices(session).size(), 1);
+    emit session.window()->openRequested(goodScene());
+    QCOMPARE(notices(session), QStringList());
+}
+
+void tst_ViewerSession::shouldKeepTheLayoutForTheNextRun()
+{
+    QSettings settings(m_folder->filePath("layout.ini"), QSettings::IniFormat);
+    {
+        ViewerSession session(line({}), &settings);
+        session.start();
+        session.window()->modulePanels()->dock("Journal")->close();
+        session.window()->close();
+    }
+    ViewerSession session(line({}), &settings);
+    session.start();
+    QVERIFY(!session.window()->modulePanels()->dock("Journal")->isVisible());
+}
+
+void tst_ViewerSession::shouldLeaveAPictureAndQuit()
+{
+    const QString file = m_folder->filePath("picture.png");
+    ViewerSession session(line({goodScene(), "--screenshot", file}), nullptr);
+    session.start();
+    QCOMPARE(QApplication::exec(), 0);
+    const QImage picture(file);
+    QCOMPARE(picture.size(), QSize(1600, 1000));
+}
+
+void tst_ViewerSession::shouldFailWhenThePictureCannotBeWritten()
+{
+    ViewerSession session(line({"--screenshot", m_folder->filePath("no/folder.png")}), nullptr);
+    session.start();
+    QCOMPARE(QApplication::exec(), 1);
+    QVERIFY(notices(session).constFirst().contains("no/folder.png"));
+}
+
+KX_TEST_MAIN(tst_ViewerSession)
+#include "tst_ViewerSession.moc"

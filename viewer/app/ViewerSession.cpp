@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "viewer/app/ViewerSession.h"
+
+#include "viewer/app/ModuleLoader.h"
+#include "viewer/app/OverlayLayer.h"
+#include "viewer/app/Screenshot.h"
+#include "viewer/scene/SceneReader.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QSettings>
+#include <QStatusBar>
+
+#include <cstdio>
+
+namespace viewer {
+
+namespace {
+
+constexpr int StatusTime = 5000;
+constexpr int MostLines = 6;
+
+// A scene with a thousand missing images must not bury the view.
+QString summary(const QStringList &warnings)
+{
+    QString text = warnings.mid(0, MostLines).join(QLatin1Char('\n'));
+    const int more = warnings.size() - MostLines;
+    if (more > 0)
+        text += QLatin1Char('\n') + ViewerSession::tr("... and %n more", nullptr, more);
+    return text;
+}
+
+} // namespace
+
+ViewerSession::ViewerSession(const CommandLine &line, QSettings *settings)
+    : m_line(line)
+    , m_settings(settings)
+    , m_window(std::make_unique<MainWindow>(line.withoutGl ? ViewArea::Background::Painted
+                                                           : ViewArea::Background::OpenGl))
+    , m_services(m_window.get())
+{
+    showOverlays();
+    connect(m_window.get(), &MainWindow::openRequested, this, [this](const QString &file) {
+        m_window->viewArea()->notices()->clear();
+        openScene(file);
+    });
+    connect(m_window.get(), &MainWindow::closing, this, [this] {
+        if (m_settings)
+            m_window->saveLayout(m_settings);
+    });
+}
+
+// The window goes first: what modules put into it asks services to the last.
+ViewerSession::~ViewerSession()
+{
+    m_window.reset();
+}
+
+void ViewerSession::start()
+{
+    loadModules();
+    if (m_settings)
+        m_window->restoreLayout(*m_settings);
+    else
+        m_window->useDefaultLayout();
+    m_window->show();
+    if (!m_line.scene.isEmpty())
+        openScene(m_line.scene);
+    m_services.announceReady();
+    if (!m_line.screenshot.isEmpty())
+        takePictureAndQuit();
+}
+
+bool ViewerSession::openScene(const QString &file)
+{
+    SceneReading reading = SceneReader::read(file);
+    if (!reading.scene) {
+        report(Severity::Error, reading.error);
+        return false;
+    }
+    overlays()->setScene(std::move(*reading.scene));
+    m_window->setScenePath(file);
+    m_window->statusBar()->showMessage(tr("Opened %1").arg(QDir::toNativeSeparators(file)),
+                                       StatusTime);
+    if (!reading.warnings.isEmpty())
+        report(Severity::Warning, summary(reading.warnings));
+    return true;
+}
+
+void ViewerSession::showOverlays()
+{
+    // First, so that the picture is drawn with the new content of the file.
+    connect(overlays(), &OverlayService::imageFileSet, this,
+            [this](const QString &path) { m_images.forget(path); });
+    const auto draw = [this](QPainter *painter, const QSize &size, double dpi) {
+        m_painter.paint(*painter, size, dpi);
+    };
+    m_window->viewArea()->setOverlayLayer(new OverlayLayer(overlays(), draw));
+}
+
+void ViewerSession::loadModules()
+{
+    for (const QString &file : m_line.plugins) {
+        const QString fault = ModuleLoader::load(file);
+        if (!fault.isEmpty())
+            report(Severity::Error, fault);
+    }
+}
+
+void ViewerSession::takePictureAndQuit()
+{
+    auto *picture = new Screenshot(m_window.get(), m_line.screenshot, this);
+    connect(picture, &Screenshot::finished, this, [this](const QString &fault) {
+        if (!fault.isEmpty())
+            report(Severity::Error, fault);
+        QApplication::exit(fault.isEmpty() ? 0 : 1);
+    });
+}
+
+void ViewerSession::report(Severity severity, const QString &text)
+{
+    std::fprintf(stderr, "%s\n", qPrintable(text));
+    m_window->notify(severity, text);
+}
+
+} // namespace viewer

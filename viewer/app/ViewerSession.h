@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "viewer/app/CommandLine.h"
+#include "viewer/app/HostServices.h"
+#include "viewer/app/MainWindow.h"
+#include "viewer/render/ImageCache.h"
+#include "viewer/render/OverlayPainter.h"
+
+#include <QObject>
+
+#include <memory>
+
+class QSettings;
+
+namespace viewer {
+
+/// One run of the viewer with a window: builds window and services, loads modules, opens scenes and
+/// reports what goes wrong, to the user in the window and on standard error. Made by the main
+/// program; goes before the application object.
+class ViewerSession : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The window's layout is kept in `settings`; null for a run that neither reads nor leaves one.
+    explicit ViewerSession(const CommandLine &line, QSettings *settings);
+    ~ViewerSession() override;
+
+    /// Loads the modules, shows the window, opens the scene and tells the modules that all is ready.
+    void start();
+
+    /// Opens a scene file in place of the open scene, which stays as it is when the file is bad.
+    bool openScene(const QString &file);
+
+    MainWindow *window() const { return m_window.get(); }
+    OverlayService *overlays() { return m_services.overlays(); }
+
+private:
+    void showOverlays();
+    void loadModules();
+    void takePictureAndQuit();
+    void report(Severity severity, const QString &text);
+
+    const CommandLine m_line;
+    QSettings *m_settings;
+    std::unique_ptr<MainWindow> m_window;
+    HostServices m_services;
+    ImageCache m_images;
+    OverlayPainter m_painter{overlays()->scene(), m_images};
+};
+
+} // namespace viewer

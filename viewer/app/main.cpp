@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "host/kxIconManager.h"
+#include "host/kxStyle.h"
+#include "viewer/app/CommandLine.h"
+#include "viewer/app/ViewerSession.h"
+
+#include <QApplication>
+#include <QSettings>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+
+namespace {
+
+void nameApplication()
+{
+    QCoreApplication::setOrganizationName(QStringLiteral("overlay-editor"));
+    QCoreApplication::setApplicationName(QStringLiteral("overlay-viewer"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(OVERLAY_VIEWER_VERSION));
+}
+
+// Questions are answered where there is no display too.
+bool isQuestion(const char *argument)
+{
+    static const char *const questions[] = {"-h", "--help", "-v", "--version"};
+    return std::any_of(std::begin(questions), std::end(questions),
+                       [argument](const char *known) { return std::strcmp(argument, known) == 0; });
+}
+
+int answer(const viewer::CommandLine &line)
+{
+    const bool fault = line.outcome == viewer::CommandLine::Outcome::Fault;
+    std::fputs(qPrintable(line.text), fault ? stderr : stdout);
+    return fault ? 2 : 0;
+}
+
+int run(const viewer::CommandLine &line)
+{
+    QApplication::setApplicationDisplayName(
+        QCoreApplication::translate("viewer", "Overlay Viewer"));
+    QApplication::setStyle(new kxStyle);
+    QApplication::setWindowIcon(kxIconManager::getIcon("Application", ""));
+    QSettings settings;
+    // Pictures look alike wherever they are taken.
+    viewer::ViewerSession session(line, line.screenshot.isEmpty() ? &settings : nullptr);
+    session.start();
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    nameApplication();
+    if (std::any_of(argv + 1, argv + argc, isQuestion)) {
+        const QCoreApplication application(argc, argv);
+        return answer(viewer::CommandLine(QCoreApplication::arguments()));
+    }
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    const QApplication application(argc, argv);
+    const viewer::CommandLine line(QCoreApplication::arguments());
+    return line.outcome == viewer::CommandLine::Outcome::Run ? run(line) : answer(line);
+}
