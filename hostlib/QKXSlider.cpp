@@ -111,9 +111,7 @@ void QKXSlider::take(double value)
     m_value = value;
     placeHandle();
     const QSignalBlocker blocker(m_field);
-    // Setting an equal value would throw away what is being typed.
-    if (m_field->value() != value)
-        m_field->setValue(value);
+    m_field->setValue(value);
 }
 
 /// The value one step further; a value outside the range is not led farther out.

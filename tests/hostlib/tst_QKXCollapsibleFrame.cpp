@@ -32,6 +32,7 @@ private Q_SLOTS:
     void shouldKeepTheFocusOnTheHeaderWhenAPageWithTheFocusFolds();
     void shouldTellAssistiveToolsItsNameAndState();
     void shouldLineLabelsUpAcrossFrames();
+    void shouldGiveTheRoomToFieldsThatDoNotAskForIt();
     void shouldKeepAtLeastTheStatedWidth();
     void shouldCountHiddenLabels();
     void shouldLeaveWhatSpansTheColumnsOut();
@@ -200,6 +201,17 @@ void tst_QKXCollapsibleFrame::shouldLineLabelsUpAcrossFrames()
     QTRY_VERIFY(m_first->width() > 900);
     QCOMPARE(fieldLeft(m_second, 0), fieldLeft(m_first, 0));
     QCOMPARE(widest->width(), widest->sizeHint().width());
+}
+
+void tst_QKXCollapsibleFrame::shouldGiveTheRoomToFieldsThatDoNotAskForIt()
+{
+    QGridLayout *grid = gridOf(m_second);
+    for (int row = 0; row < 2; ++row) {
+        delete grid->itemAtPosition(row, 1)->widget();
+        grid->addWidget(new QLabel(QStringLiteral("plain")), row, 1);
+    }
+    QKXCollapsibleFrame::fixLayouts(m_window.get(), 10);
+    QTRY_COMPARE(fieldLeft(m_second, 0), fieldLeft(m_first, 0));
 }
 
 void tst_QKXCollapsibleFrame::shouldKeepAtLeastTheStatedWidth()
