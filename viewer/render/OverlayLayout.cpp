@@ -39,8 +39,8 @@ QRectF placeBox(const Overlay &overlay, const QSizeF &box, const ViewGeometry &v
 
 QRectF backgroundBox(const QRectF &textBox, double lineHeight)
 {
-    const double across = 0.3 * lineHeight;
-    const double along = 0.1 * lineHeight;
+    const double across = 0.35 * lineHeight;
+    const double along = 0.15 * lineHeight;
     return textBox.adjusted(-across, -along, across, along);
 }
 

@@ -136,7 +136,7 @@ void tst_OverlayLayout::shouldHaveNoBackgroundWithoutColour()
 
 void tst_OverlayLayout::shouldGrowTheMarginWithTheLine()
 {
-    QCOMPARE(viewer::backgroundBox({10, 10, 100, 40}, 20), QRectF(4, 8, 112, 44));
+    QCOMPARE(viewer::backgroundBox({10, 10, 100, 40}, 20), QRectF(3, 7, 114, 46));
 }
 
 KX_TEST_MAIN(tst_OverlayLayout)
