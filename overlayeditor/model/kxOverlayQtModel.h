@@ -8,6 +8,8 @@
 #include <QSet>
 #include <QStandardItemModel>
 
+class kxDropTrace;
+
 /// Mirrors the node tree of the overlay service into an item model, so that a view can show it.
 ///
 /// It follows the service's signals and holds nothing but ids and display values. It writes to the
@@ -64,6 +66,15 @@ public:
     bool dropMimeData(const QMimeData *data, Qt::DropAction action, int row, int column,
                       const QModelIndex &parent) override;
 
+    /// Makes the rows that a drag has touched equal to the service again, mending only those that
+    /// differ, so that expansion and selection elsewhere survive. Called by the view, once it has
+    /// removed the rows that it takes for the dragged ones.
+    void settle(const kxDropTrace &trace);
+
+Q_SIGNALS:
+    /// A drop was taken; the service has moved the nodes.
+    void nodesDropped(const QRPC::NodeList &nodes);
+
 public Q_SLOTS:
     /// Inserts the node with all ancestors that have no row yet, in one insertion. A node that has
     /// a row already is left alone.
@@ -99,6 +110,9 @@ private:
     bool place(QStandardItem *item, QRPC::NodeId parentId, QRPC::NodeId afterId);
     void updateCheckState(QStandardItem *item, QRPC::NodeId id);
     void updateActiveStates(QVector<QStandardItem *> stack);
+    void settleSubtree(QStandardItem *item);
+    void settleChildren(QStandardItem *parent);
+    QStandardItem *takeForRow(QStandardItem *parent, int row, QRPC::NodeId id);
 
     /// True while the model itself calls the service, whose echo then changes nothing twice.
     bool m_updating = false;

@@ -78,11 +78,14 @@ bool kxOverlayQtModel::dropMimeData(const QMimeData *data, Qt::DropAction action
         target = kxService<kxOverlayService>()->getRootNode();
     // The service may reset or remove the target before it returns.
     const QPersistentModelIndex place(parent);
+    const QRPC::NodeList nodes = decodeNodes(data);
     {
         const QScopedValueRollback<bool> guard(m_updating, true);
-        kxService<kxOverlayService>()->moveNodes(decodeNodes(data), target, row);
+        kxService<kxOverlayService>()->moveNodes(nodes, target, row);
     }
     if (parent.isValid() && !place.isValid())
         return false;
-    return QStandardItemModel::dropMimeData(data, Qt::MoveAction, row, column, place);
+    const bool taken = QStandardItemModel::dropMimeData(data, Qt::MoveAction, row, column, place);
+    Q_EMIT nodesDropped(nodes);
+    return taken;
 }

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "host/QRPC.h"
+
+#include <QObject>
+#include <QPersistentModelIndex>
+#include <QVector>
+
+class kxOverlayQtModel;
+
+/// Notes what a drag does to the rows of the model, from its construction to its destruction: the
+/// toolkit inserts copies of the dragged rows and then removes what is selected, without a word to
+/// the model about either belonging together. Made by the view around a drag; GUI thread only.
+class kxDropTrace : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit kxDropTrace(kxOverlayQtModel *model);
+    ~kxDropTrace() override;
+
+    /// The nodes of the last drop that the model took, in drag order; empty when there was none.
+    QRPC::NodeList droppedNodes() const { return m_droppedNodes; }
+
+    /// Rows that were inserted and are still there.
+    QModelIndexList insertedRows() const;
+
+    /// Parents that lost or gained rows and are still there; an invalid index stands for the root.
+    QModelIndexList touchedParents() const;
+
+private:
+    void noteInsertion(const QModelIndex &parent, int first, int last);
+    void noteParent(const QModelIndex &parent);
+
+    kxOverlayQtModel *m_model;
+    QRPC::NodeList m_droppedNodes;
+    QVector<QPersistentModelIndex> m_inserted;
+    QVector<QPersistentModelIndex> m_parents;
+    bool m_rootTouched = false;
+};

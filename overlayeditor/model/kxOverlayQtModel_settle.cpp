@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+// Makes the rows that a drag has touched equal to the service again.
+
+#include "overlayeditor/model/kxOverlayQtModel.h"
+
+#include "host/kxOverlayService.h"
+#include "overlayeditor/kxServices.h"
+#include "overlayeditor/model/kxDropTrace.h"
+#include "overlayeditor/model/kxOverlayItem.h"
+#include "overlayeditor/model/kxOverlayItemIndex.h"
+
+#include <QVector>
+
+void kxOverlayQtModel::settle(const kxDropTrace &trace)
+{
+    // Copies show what their rows showed when the drag began.
+    const QModelIndexList copies = trace.insertedRows();
+    for (const QModelIndex &copy : copies)
+        settleSubtree(itemFromIndex(copy));
+    const QModelIndexList parents = trace.touchedParents();
+    QVector<QPersistentModelIndex> remaining(parents.begin(), parents.end());
+    for (int i = 0; i < remaining.size(); ++i) {
+        // Mending one parent may remove another one; the root is the index that never was valid.
+        const bool isRoot = !parents.at(i).isValid();
+        if (isRoot || remaining.at(i).isValid())
+            settleChildren(isRoot ? invisibleRootItem() : itemFromIndex(remaining.at(i)));
+    }
+}
+
+void kxOverlayQtModel::settleSubtree(QStandardItem *item)
+{
+    const QRPC::NodeId id = getNodeId(item);
+    item->setData(kxService<kxOverlayService>()->getName(id), Qt::DisplayRole);
+    updateCheckState(item, id);
+    const bool active = kxService<kxOverlayService>()->isActive(id);
+    if (item->data(kxOverlayItem::ActiveRole).toBool() != active)
+        item->setData(active, kxOverlayItem::ActiveRole);
+    settleChildren(item);
+    for (int row = 0; row < item->rowCount(); ++row)
+        settleSubtree(item->child(row));
+}
+
+void kxOverlayQtModel::settleChildren(QStandardItem *parent)
+{
+    const QRPC::NodeId parentId = getNodeId(parent);
+    const int count = kxService<kxOverlayService>()->getChildCount(parentId);
+    QVector<QRPC::NodeId> nodes;
+    nodes.reserve(count);
+    for (int i = 0; i < count; ++i)
+        nodes.append(kxService<kxOverlayService>()->getChild(parentId, i));
+
+    QSet<QRPC::NodeId> missing(nodes.begin(), nodes.end());
+    for (int row = 0; row < count; ++row) {
+        const QRPC::NodeId id = nodes.at(row);
+        // A row in the way that shows no node still to come is a ghost or a second copy.
+        while (parent->rowCount() > row && !missing.contains(getNodeId(parent->child(row))))
+            parent->removeRow(row);
+        if (row >= parent->rowCount() || getNodeId(parent->child(row)) != id)
+            parent->insertRow(row, takeForRow(parent, row, id));
+        missing.remove(id);
+    }
+    if (parent->rowCount() > count)
+        parent->removeRows(count, parent->rowCount() - count);
+}
+
+/// The item of a node that belongs at a row: from further down, from another parent, or new.
+QStandardItem *kxOverlayQtModel::takeForRow(QStandardItem *parent, int row, QRPC::NodeId id)
+{
+    for (int other = row; other < parent->rowCount(); ++other) {
+        if (getNodeId(parent->child(other)) == id)
+            return parent->takeRow(other).constFirst();
+    }
+    QStandardItem *item = obtainItem(id, Detached::Forget);
+    removeFromParent(item);
+    kxOverlayItemIndex::the().setAttached(item);
+    return item;
+}

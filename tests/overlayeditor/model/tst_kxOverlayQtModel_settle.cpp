@@ -1,0 +1,212 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "overlayeditor/model/kxDropTrace.h"
+#include "tests/overlayeditor/model/ModelTest.h"
+
+#include <QMimeData>
+
+/// What is mended once a drag is over. The view's share, the removal of all selected rows, is done
+/// by the tests; the copies are those of the toolkit.
+class tst_kxOverlayQtModel_settle : public ModelTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() override;
+    void shouldShowTheServiceAfterADrop_data();
+    void shouldShowTheServiceAfterADrop();
+    void shouldShowWhatChangedDuringTheDrag_data();
+    void shouldShowWhatChangedDuringTheDrag();
+    void shouldBringBackARowThatWasNotDragged();
+    void shouldDropASecondRowOfANodeThatStayed();
+    void shouldMendNothingWhereNothingDiffers();
+    void shouldLeaveRowsThatWereNotTouchedAlone();
+    void shouldTellWhichNodesWereDropped();
+    void shouldForgetRowsThatAreGone();
+
+private:
+    /// Drags nodes onto `target` and removes `removed` afterwards, as the view does.
+    void dragAndDrop(const QRPC::NodeList &nodes, QRPC::NodeId target, int row,
+                     const QRPC::NodeList &removed);
+    void dragAndDrop(const QRPC::NodeList &nodes, QRPC::NodeId target, int row)
+    {
+        dragAndDrop(nodes, target, row, nodes);
+    }
+
+    std::function<void()> m_duringDrag;
+};
+
+void tst_kxOverlayQtModel_settle::init()
+{
+    ModelTest::init();
+    m_duringDrag = nullptr;
+}
+
+void tst_kxOverlayQtModel_settle::dragAndDrop(const QRPC::NodeList &nodes, QRPC::NodeId target,
+                                              int row, const QRPC::NodeList &removed)
+{
+    QModelIndexList indexes;
+    for (const QRPC::NodeId id : nodes)
+        indexes.append(index(id));
+    QVector<QPersistentModelIndex> selected;
+    for (const QRPC::NodeId id : removed)
+        selected.append(index(id));
+    const std::unique_ptr<QMimeData> data(model().mimeData(indexes));
+
+    const kxDropTrace trace(&model());
+    if (m_duringDrag)
+        m_duringDrag();
+    QVERIFY(model().dropMimeData(data.get(), Qt::MoveAction, row, 0, index(target)));
+    for (const QPersistentModelIndex &gone : selected)
+        model().removeRow(gone.row(), gone.parent());
+    model().settle(trace);
+}
+
+void tst_kxOverlayQtModel_settle::shouldShowTheServiceAfterADrop_data()
+{
+    QTest::addColumn<QString>("tree");
+    QTest::addColumn<QRPC::NodeList>("nodes");
+    QTest::addColumn<QRPC::NodeId>("target");
+    QTest::addColumn<int>("row");
+    const auto row = [](const char *name, const char *tree, const QRPC::NodeList &nodes,
+                        QRPC::NodeId target,
+                        int at) { QTest::newRow(name) << QString(tree) << nodes << target << at; };
+    row("onto a group", "a2 g3(b4) c5", {2}, 3, -1);
+    row("onto an empty group", "a2 g3() c5", {2, 5}, 3, -1);
+    row("onto empty space", "g2(a3 b4) c5", {3}, 1, -1);
+    row("down within a parent", "a2 b3 c4 d5", {2}, 1, 3);
+    row("up within a parent", "a2 b3 c4 d5", {5}, 1, 1);
+    row("in another order than they stand", "a2 b3 c4 d5 g6()", {5, 2, 4}, 6, -1);
+    row("rows of several parents with equal numbers", "g2(a3 b4) h5(c6 d7) k8(e9) m10()",
+        {9, 6, 3, 7, 4}, 10, -1);
+    row("a group and its child", "g2(a3 b4) h5()", {2, 3}, 5, -1);
+    row("into a disabled group", "g2(h3(a4)) k5-()", {3}, 5, -1);
+    row("out of a disabled group", "g2-(h3(a4)) k5()", {3}, 5, -1);
+    row("into a switch that shows a child", "s2*(a3) b4", {4}, 2, -1);
+    row("onto itself", "g2(a3) b4", {2}, 2, -1);
+    row("onto its own descendant", "g2(h3()) b4", {2}, 3, -1);
+}
+
+void tst_kxOverlayQtModel_settle::shouldShowTheServiceAfterADrop()
+{
+    QFETCH(QString, tree);
+    QFETCH(QRPC::NodeList, nodes);
+    QFETCH(QRPC::NodeId, target);
+    QFETCH(int, row);
+    fill(tree);
+    dragAndDrop(nodes, target, row);
+    KX_COMPARE_TREE(model(), service());
+}
+
+void tst_kxOverlayQtModel_settle::shouldShowWhatChangedDuringTheDrag_data()
+{
+    QTest::addColumn<int>("change");
+    QTest::newRow("renamed") << 0;
+    QTest::newRow("switched off") << 1;
+    QTest::newRow("removed") << 2;
+    QTest::newRow("children added") << 3;
+    QTest::newRow("children removed") << 4;
+    QTest::newRow("all read anew") << 5;
+    QTest::newRow("another node added") << 6;
+}
+
+void tst_kxOverlayQtModel_settle::shouldShowWhatChangedDuringTheDrag()
+{
+    QFETCH(int, change);
+    fill("g2(a3 b4) h5() c6");
+    m_duringDrag = [&] {
+        switch (change) {
+        case 0:
+            service().setName({2, 3}, "new");
+            break;
+        case 1:
+            service().setEnabled({2}, false);
+            break;
+        case 2:
+            service().deleteNodes({2});
+            break;
+        case 3:
+            service().createOverlay(2);
+            break;
+        case 4:
+            service().deleteNodes({3});
+            break;
+        case 5:
+            Q_EMIT service().modelReset();
+            break;
+        case 6:
+            service().createOverlay(1);
+            break;
+        }
+    };
+    dragAndDrop({2}, 5, -1);
+    KX_COMPARE_TREE(model(), service());
+}
+
+void tst_kxOverlayQtModel_settle::shouldBringBackARowThatWasNotDragged()
+{
+    fill("a2 b3 g4() h5(c6)");
+    dragAndDrop({2}, 4, -1, {2, 3, 6});
+    KX_COMPARE_TREE(model(), service());
+}
+
+void tst_kxOverlayQtModel_settle::shouldDropASecondRowOfANodeThatStayed()
+{
+    fill("a2 b3 g4()");
+    dragAndDrop({2, 3}, 4, -1, {3});
+    QCOMPARE(shown(), QString("g4(a2 b3)"));
+    fill("a2 b3 c4");
+    dragAndDrop({2}, 1, 3, {});
+    QCOMPARE(shown(), QString("b3 c4 a2"));
+}
+
+void tst_kxOverlayQtModel_settle::shouldMendNothingWhereNothingDiffers()
+{
+    fill("a2 b3 c4 g5(d6)");
+    const kxDropTrace trace(&model());
+    service().createOverlay(5);
+    QSignalSpy changed(&model(), &QAbstractItemModel::dataChanged);
+    QSignalSpy inserted(&model(), &QAbstractItemModel::rowsInserted);
+    QSignalSpy removed(&model(), &QAbstractItemModel::rowsRemoved);
+    model().settle(trace);
+    QCOMPARE(changed.size() + inserted.size() + removed.size(), 0);
+}
+
+void tst_kxOverlayQtModel_settle::shouldLeaveRowsThatWereNotTouchedAlone()
+{
+    fill("g2(a3) h4(b5 c6) k7()");
+    const QPersistentModelIndex other = index(5);
+    const QPersistentModelIndex sibling = index(4);
+    QStandardItem *const group = item(4);
+    dragAndDrop({3}, 7, -1);
+    QVERIFY(other.isValid());
+    QVERIFY(sibling.isValid());
+    QCOMPARE(item(4), group);
+}
+
+void tst_kxOverlayQtModel_settle::shouldTellWhichNodesWereDropped()
+{
+    fill("a2 b3 g4()");
+    const std::unique_ptr<QMimeData> data(model().mimeData({index(3), index(2)}));
+    const kxDropTrace trace(&model());
+    QCOMPARE(trace.droppedNodes(), QRPC::NodeList());
+    QVERIFY(!model().dropMimeData(data.get(), Qt::CopyAction, -1, 0, index(4)));
+    QCOMPARE(trace.droppedNodes(), QRPC::NodeList());
+    QVERIFY(model().dropMimeData(data.get(), Qt::MoveAction, -1, 0, index(4)));
+    QCOMPARE(trace.droppedNodes(), (QRPC::NodeList{3, 2}));
+}
+
+void tst_kxOverlayQtModel_settle::shouldForgetRowsThatAreGone()
+{
+    fill("g2() h3()");
+    const kxDropTrace trace(&model());
+    service().createOverlay(2);
+    service().createOverlay(3);
+    service().deleteNodes({2});
+    QCOMPARE(trace.insertedRows(), QModelIndexList{model().index(0, 0, index(3))});
+    QCOMPARE(trace.touchedParents(), (QModelIndexList{QModelIndex(), index(3)}));
+}
+
+KX_TEST_MAIN(tst_kxOverlayQtModel_settle)
+#include "tst_kxOverlayQtModel_settle.moc"
