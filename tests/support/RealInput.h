@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QPoint>
+#include <QStringList>
+
+class QWidget;
+
+/// Mouse and keys as a user gives them: events of the X server, made by xdotool, that travel through
+/// the window manager. For tests with a display of their own; each call returns when the events are
+/// on their way, so that a test waits for what they do.
+namespace realInput {
+
+/// Clicks at a place in a widget with the left button, while the named keys ("ctrl") are held.
+void click(const QWidget &widget, const QPoint &place, const QStringList &heldKeys = {});
+
+/// Presses and releases a key by its X name ("Delete", "ctrl+a").
+void key(const QString &name);
+
+} // namespace realInput
