@@ -45,8 +45,7 @@ void describe(QWidget *widget)
 
 } // namespace
 
-kxStyle::kxStyle()
-    : QProxyStyle(QStringLiteral("Fusion"))
+kxStyle::kxStyle() : QProxyStyle(QStringLiteral("Fusion"))
 {
     setObjectName(QStringLiteral("kx"));
 }
@@ -122,6 +121,7 @@ int kxStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget
     switch (hint) {
     case SH_ComboBox_Popup:
         return 0; // a list below the box, with the box still in sight
+    case SH_DialogButtonBox_ButtonsHaveIcons:
     case SH_EtchDisabledText:
     case SH_DitherDisabledText:
         return 0;

@@ -45,8 +45,8 @@ bool excludes(const QRadioButton *button, const QAbstractButton *other)
         return false;
     if (button->group())
         return button->group()->exclusive();
-    return button->autoExclusive() && other->autoExclusive() &&
-           qobject_cast<const QRadioButton *>(other);
+    return button->autoExclusive() && other->autoExclusive()
+           && qobject_cast<const QRadioButton *>(other);
 }
 
 QList<QAbstractButton *> candidates(const QRadioButton *button)
@@ -122,7 +122,9 @@ void kxStyle::drawMixedText(QPainter *painter, const QRect &rect, bool enabled)
     painter->setPen(QColor(enabled ? kxStyleColors::mixedText : kxStyleColors::textDisabled));
     const QRect inner = rect.adjusted(edgeWidth + textMargin, 0, -textMargin, 0);
     const bool fits = QFontMetrics(font).horizontalAdvance(mixedText()) <= inner.width();
-    const QString words = fits ? mixedText() : QString(QChar(0x2014));
-    painter->drawText(inner, Qt::AlignLeft | Qt::AlignVCenter, words);
+    if (fits)
+        painter->drawText(inner, Qt::AlignLeft | Qt::AlignVCenter, mixedText());
+    else
+        painter->drawText(rect, Qt::AlignCenter, QString(QChar(0x2014)));
     painter->restore();
 }
