@@ -107,6 +107,14 @@ void MainWindow::closeEvent(QCloseEvent *event)
     QMainWindow::closeEvent(event);
 }
 
+void MainWindow::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    // The window manager and a remembered layout switch too.
+    if (event->type() == QEvent::WindowStateChange)
+        m_fullScreen->setChecked(isFullScreen());
+}
+
 void MainWindow::createFileMenu()
 {
     QMenu *menu = menuBar()->addMenu(tr("&File"));
@@ -130,10 +138,11 @@ void MainWindow::createViewMenu()
     // In lists and text fields the key has a meaning of its own.
     reset->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     m_viewArea->addAction(reset);
-    QAction *full = menu->addAction(tr("&Full Screen"));
-    full->setCheckable(true);
-    full->setShortcut(Qt::Key_F11);
-    connect(full, &QAction::toggled, this, &MainWindow::toggleFullScreen);
+    m_fullScreen = menu->addAction(tr("&Full Screen"));
+    m_fullScreen->setObjectName(QStringLiteral("fullScreen"));
+    m_fullScreen->setCheckable(true);
+    m_fullScreen->setShortcut(Qt::Key_F11);
+    connect(m_fullScreen, &QAction::toggled, this, &MainWindow::toggleFullScreen);
 }
 
 void MainWindow::createModulesMenu()

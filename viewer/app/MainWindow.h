@@ -55,6 +55,7 @@ Q_SIGNALS:
 protected:
     void showEvent(QShowEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     void createFileMenu();
@@ -68,6 +69,7 @@ private:
 
     ViewArea *m_viewArea;
     ModulePanels *m_panels = nullptr;
+    QAction *m_fullScreen = nullptr;
     QLabel *m_backgroundLabel = nullptr;
     QString m_scenePath;
     bool m_wantsDefaultSizes = false;

@@ -6,6 +6,7 @@
 #include <QVector2D>
 #include <QtMath>
 
+#include <algorithm>
 #include <cmath>
 
 namespace viewer {
@@ -62,17 +63,29 @@ Profile ball(float radius)
     return points;
 }
 
-Vertex cornerAt(const Piece &piece, const Profile &curve, int row, float angle)
+// How much light reaches a row of the outline: less close to the floor, and less inside, the deeper
+// below the edge. The inside begins where the outline is highest.
+float opennessAt(const Profile &curve, int row)
 {
+    const auto isLower = [](const QVector2D &a, const QVector2D &b) { return a.y() < b.y(); };
+    const auto edge = std::max_element(curve.cbegin(), curve.cend(), isLower);
+    const float height = curve.at(row).y();
+    if (row <= edge - curve.cbegin())
+        return 0.55f + 0.45f * std::min(1.0f, height / 0.35f);
+    const float depth = (edge->y() - height) / edge->x();
+    return 1 / (1 + 1.6f * depth * depth);
+}
+
+Vertex cornerAt(const Piece &piece, int row, float openness, float angle)
+{
+    const Profile &curve = piece.profile;
     const QVector2D point = curve.at(row);
     const QVector2D along =
         (curve.at(qMin(row + 1, curve.size() - 1)) - curve.at(qMax(row - 1, 0))).normalized();
     const QVector3D outwards(std::cos(angle), 0, std::sin(angle));
     const QVector3D normal = outwards * along.y() - QVector3D(0, along.x(), 0);
-    // Less light reaches what is close to the floor.
-    const float open = 0.55f + 0.45f * std::min(1.0f, point.y() / 0.35f);
     return {outwards * point.x() + QVector3D(piece.foot.x, point.y(), piece.foot.z),
-            normal.normalized(), piece.color * open, piece.gloss};
+            normal.normalized(), piece.color * openness, piece.gloss * openness};
 }
 
 void appendTurned(Mesh *mesh, const Piece &piece)
@@ -80,9 +93,10 @@ void appendTurned(Mesh *mesh, const Piece &piece)
     const int base = mesh->vertices.size();
     constexpr int columns = Segments + 1;
     for (int row = 0; row < piece.profile.size(); ++row) {
+        const float openness = opennessAt(piece.profile, row);
         for (int column = 0; column < columns; ++column) {
             const float angle = 2 * float(M_PI) * column / Segments;
-            mesh->vertices.append(cornerAt(piece, piece.profile, row, angle));
+            mesh->vertices.append(cornerAt(piece, row, openness, angle));
         }
     }
     for (int row = 0; row + 1 < piece.profile.size(); ++row) {

@@ -81,6 +81,7 @@ private Q_SLOTS:
     void shouldGiveThePanelItsUsualWidth();
     void shouldRememberTheLayout();
     void shouldUseTheDefaultLayoutWhereTheRememberedOneIsBroken();
+    void shouldKeepTheFullScreenSwitchInStepWithTheWindow();
     void shouldNameTheSceneInTheTitle();
     void shouldSayThatThereIsNo3DView();
     void shouldShowNoticesUntilTheyAreDismissed();
@@ -217,6 +218,19 @@ void tst_MainWindow::shouldUseTheDefaultLayoutWhereTheRememberedOneIsBroken()
     window.restoreLayout(settings);
     window.setVisible(true);
     QTRY_COMPARE(window.modulePanels()->dock("Editor")->width(), 460);
+}
+
+void tst_MainWindow::shouldKeepTheFullScreenSwitchInStepWithTheWindow()
+{
+    Window window;
+    window.setVisible(true);
+    auto *action = window.findChild<QAction *>("fullScreen");
+    action->trigger();
+    QTRY_VERIFY(window.isFullScreen());
+    QVERIFY(action->isChecked());
+    window.showNormal();
+    QTRY_VERIFY(!action->isChecked());
+    QVERIFY(!window.isFullScreen());
 }
 
 void tst_MainWindow::shouldNameTheSceneInTheTitle()

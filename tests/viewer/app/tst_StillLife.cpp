@@ -19,6 +19,7 @@ private Q_SLOTS:
     void shouldTurnItsFacesOutwards();
     void shouldStandOnTheFloor();
     void shouldStandOnItsFootprints();
+    void shouldDarkenInsideTheVase();
 };
 
 void tst_StillLife::shouldFitShortIndices()
@@ -73,6 +74,19 @@ void tst_StillLife::shouldStandOnItsFootprints()
                                         });
         QVERIFY(stands);
     }
+}
+
+void tst_StillLife::shouldDarkenInsideTheVase()
+{
+    // The vase is the first piece; at the axis its outline begins outside below and ends inside.
+    const Mesh mesh = StillLife::build();
+    const QVector3D outside = mesh.vertices.constFirst().color;
+    const auto inside =
+        std::find_if(mesh.vertices.cbegin(), mesh.vertices.cend(), [](const Vertex &vertex) {
+            return vertex.position.x() == 0 && vertex.position.z() == 0 && vertex.position.y() > 1;
+        });
+    QVERIFY(inside != mesh.vertices.cend());
+    QVERIFY(inside->color.length() < outside.length());
 }
 
 KX_TEST_MAIN(tst_StillLife)

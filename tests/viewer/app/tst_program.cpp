@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "tests/support/KxTest.h"
+
+#include <QImage>
+#include <QProcess>
+#include <QTemporaryDir>
+
+/// The built program, run as a user runs it.
+class tst_program : public KxTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shouldTellItsVersionWithoutADisplay();
+    void shouldTellItsOptionsWithoutADisplay();
+    void shouldRefuseAnUnknownOption();
+    void shouldLeaveAPictureOfAScene();
+    void shouldRunOnWhenModuleAndSceneAreBad();
+
+private:
+    QString pictureFile() const { return m_folder.filePath("picture.png"); }
+
+    QTemporaryDir m_folder;
+};
+
+namespace {
+
+/// What a run of the program came to.
+struct Run
+{
+    int code = -1;
+    QString output;
+    QString errors;
+};
+
+Run run(const QStringList &arguments, const QString &platform = QStringLiteral("offscreen"))
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("QT_QPA_PLATFORM", platform);
+    environment.remove("DISPLAY");
+    QProcess program;
+    program.setProcessEnvironment(environment);
+    program.start(PROGRAM, arguments);
+    if (!program.waitForFinished(60000) || program.exitStatus() != QProcess::NormalExit)
+        return {};
+    return {program.exitCode(), QString::fromUtf8(program.readAllStandardOutput()),
+            QString::fromUtf8(program.readAllStandardError())};
+}
+
+} // namespace
+
+void tst_program::shouldTellItsVersionWithoutADisplay()
+{
+    const Run answer = run({"--version"}, "xcb");
+    QCOMPARE(answer.code, 0);
+    QCOMPARE(answer.output, QString("overlay-viewer " PROGRAM_VERSION "\n"));
+}
+
+void tst_program::shouldTellItsOptionsWithoutADisplay()
+{
+    const Run answer = run({"-h"}, "xcb");
+    QCOMPARE(answer.code, 0);
+    QVERIFY(answer.output.contains("--screenshot"));
+}
+
+void tst_program::shouldRefuseAnUnknownOption()
+{
+    const Run refusal = run({"--frobnicate"});
+    QCOMPARE(refusal.code, 2);
+    QCOMPARE(refusal.output, QString());
+    QVERIFY2(refusal.errors.contains("frobnicate"), qPrintable(refusal.errors));
+}
+
+void tst_program::shouldLeaveAPictureOfAScene()
+{
+    QFile scene(m_folder.filePath("scene.json"));
+    QVERIFY(scene.open(QIODevice::WriteOnly));
+    scene.write(R"({"format": "overlay-scene", "version": 1, "overlays": []})");
+    scene.close();
+    const Run shown =
+        run({"--plugin", PLUGIN_JOURNAL, scene.fileName(), "--screenshot", pictureFile()});
+    QCOMPARE(shown.code, 0);
+    QVERIFY2(!shown.errors.contains("scene.json"), qPrintable(shown.errors));
+    QCOMPARE(QImage(pictureFile()).size(), QSize(1600, 1000));
+}
+
+void tst_program::shouldRunOnWhenModuleAndSceneAreBad()
+{
+    const Run shown =
+        run({"--plugin", "/no/module.so", "/no/scene.json", "--screenshot", pictureFile()});
+    QCOMPARE(shown.code, 0);
+    QVERIFY2(shown.errors.contains("/no/module.so"), qPrintable(shown.errors));
+    QVERIFY2(shown.errors.contains("/no/scene.json"), qPrintable(shown.errors));
+}
+
+KX_TEST_MAIN(tst_program)
+#include "tst_program.moc"
