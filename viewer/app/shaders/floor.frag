@@ -6,7 +6,7 @@
 #extension GL_OES_standard_derivatives : enable
 #endif
 
-const int FootCount = 3;
+const int FootCount = 4;
 uniform highp vec3 feet[FootCount];
 uniform highp float extent;
 varying highp vec2 ground;
