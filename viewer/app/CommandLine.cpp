@@ -50,6 +50,26 @@ CommandLine::CommandLine(const QStringList &arguments)
     withoutGl = parser.isSet(noGl);
 }
 
+QStringList CommandLine::takePlugins(int *count, char **arguments)
+{
+    QStringList taken;
+    int kept = 0;
+    for (int i = 0; i < *count; ++i) {
+        const QString argument = QString::fromLocal8Bit(arguments[i]);
+        const bool hasValueBehind = argument == QLatin1String("--plugin") && i + 1 < *count;
+        if (!hasValueBehind && !argument.startsWith(QLatin1String("--plugin="))) {
+            arguments[kept++] = arguments[i];
+            continue;
+        }
+        taken.append(argument);
+        if (hasValueBehind)
+            taken.append(QString::fromLocal8Bit(arguments[++i]));
+    }
+    arguments[kept] = nullptr;
+    *count = kept;
+    return taken;
+}
+
 void CommandLine::fail(const QString &reason)
 {
     outcome = Outcome::Fault;

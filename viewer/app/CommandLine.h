@@ -20,6 +20,11 @@ public:
     /// Reads arguments, the program's name first.
     explicit CommandLine(const QStringList &arguments);
 
+    /// Takes `--plugin` and its values out of the program's arguments and returns them. The toolkit
+    /// has an option of that name too and would swallow them; so this comes before the application
+    /// object, and what it returns is added to the application's arguments.
+    static QStringList takePlugins(int *count, char **arguments);
+
     Outcome outcome = Outcome::Run;
     QString text;
     QString scene;       ///< empty: start without a scene

@@ -7,12 +7,14 @@
 #include <QDockWidget>
 #include <QMainWindow>
 #include <QMenu>
+#include <QStatusBar>
 
 namespace viewer {
 
 namespace {
 
-constexpr int UsualWidth = 460;
+// Room for a tree beside a column of labels and controls.
+constexpr int UsualWidth = 700;
 constexpr char HelpIdProperty[] = "moduleHelpId";
 
 // Layouts are remembered by object name.
@@ -90,6 +92,10 @@ QDockWidget *ModulePanels::makeDock(const ModuleInfo &info, QWidget *content)
     // A window of its own becomes part of the dock; its class may hide QWidget::show().
     panel->setWidget(content);
     content->setVisible(true);
+    // A part of a window has no corner of its own to be dragged by.
+    const QList<QStatusBar *> bars = content->findChildren<QStatusBar *>();
+    for (QStatusBar *bar : bars)
+        bar->setSizeGripEnabled(false);
     return panel;
 }
 

@@ -3,9 +3,10 @@
 
 #include "viewer/app/NoticeArea.h"
 
+#include "host/kxIconManager.h"
+
 #include <QLabel>
 #include <QPainter>
-#include <QStyle>
 #include <QToolButton>
 
 namespace viewer {
@@ -51,7 +52,7 @@ QToolButton *makeCloseButton(QWidget *parent)
     auto *button = new QToolButton(parent);
     button->setObjectName(QStringLiteral("dismiss"));
     button->setAutoRaise(true);
-    button->setIcon(parent->style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    button->setIcon(kxIconManager::getIcon("Clear", std::string()));
     button->setToolTip(Notice::tr("Dismiss"));
     button->setAccessibleName(Notice::tr("Dismiss"));
     return button;

@@ -5,6 +5,7 @@
 
 #include <QtMath>
 
+#include <algorithm>
 #include <cmath>
 
 namespace viewer {
@@ -12,9 +13,17 @@ namespace viewer {
 namespace {
 
 constexpr float FieldOfView = 34.0f;
+constexpr float FittingAspect = 1.35f;
 constexpr float DegreesPerView = 360.0f;
 constexpr float ZoomPerStep = 0.88f;
 constexpr float PanRange = 3.0f;
+
+// Half the height of what the view shows at distance 1. A view that is narrower than usual shows
+// more above and below, so that the model still fits from side to side.
+float halfHeight(float aspect)
+{
+    return std::tan(qDegreesToRadians(FieldOfView / 2)) * std::max(1.0f, FittingAspect / aspect);
+}
 
 } // namespace
 
@@ -32,7 +41,7 @@ void OrbitCamera::zoom(float steps)
 void OrbitCamera::pan(const QPointF &travel, float aspect)
 {
     // The height of the plane through the target that the view shows.
-    const float height = 2 * m_distance * std::tan(qDegreesToRadians(FieldOfView / 2));
+    const float height = 2 * m_distance * halfHeight(aspect);
     const QVector3D forward = (m_target - eye()).normalized();
     const QVector3D right = QVector3D::crossProduct(forward, {0, 1, 0}).normalized();
     const QVector3D up = QVector3D::crossProduct(right, forward);
@@ -65,7 +74,7 @@ QMatrix4x4 OrbitCamera::view() const
 QMatrix4x4 OrbitCamera::projection(float aspect)
 {
     QMatrix4x4 matrix;
-    matrix.perspective(FieldOfView, aspect, 0.1f, 80.0f);
+    matrix.perspective(2 * qRadiansToDegrees(std::atan(halfHeight(aspect))), aspect, 0.1f, 80.0f);
     return matrix;
 }
 

@@ -60,7 +60,8 @@ int main(int argc, char **argv)
         return answer(viewer::CommandLine(QCoreApplication::arguments()));
     }
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    const QStringList plugins = viewer::CommandLine::takePlugins(&argc, argv);
     const QApplication application(argc, argv);
-    const viewer::CommandLine line(QCoreApplication::arguments());
+    const viewer::CommandLine line(QCoreApplication::arguments() + plugins);
     return line.outcome == viewer::CommandLine::Outcome::Run ? run(line) : answer(line);
 }

@@ -17,6 +17,7 @@ private Q_SLOTS:
     void shouldStartWithoutArguments();
     void shouldTakeASceneAndOptionsInAnyOrder();
     void shouldKeepTheOrderOfPlugins();
+    void shouldTakePluginsBeforeTheToolkitDoes();
     void shouldAnswerHelpAndVersion();
     void shouldRefuseWhatItDoesNotKnow_data();
     void shouldRefuseWhatItDoesNotKnow();
@@ -60,6 +61,27 @@ void tst_CommandLine::shouldKeepTheOrderOfPlugins()
 {
     const CommandLine line = read({"--plugin", "b.so", "--plugin=a.so"});
     QCOMPARE(line.plugins, QStringList({"b.so", "a.so"}));
+}
+
+void tst_CommandLine::shouldTakePluginsBeforeTheToolkitDoes()
+{
+    QList<QByteArray> texts{"viewer",    "--plugin", "a.so",          "scene.json",
+                            "-platform", "minimal",  "--plugin=b.so", "--plugin"};
+    QVector<char *> arguments;
+    for (QByteArray &text : texts)
+        arguments.append(text.data());
+    arguments.append(nullptr);
+    int count = texts.size();
+
+    QCOMPARE(CommandLine::takePlugins(&count, arguments.data()),
+             QStringList({"--plugin", "a.so", "--plugin=b.so"}));
+
+    QStringList left;
+    for (int i = 0; i < count; ++i)
+        left.append(arguments.at(i));
+    // An option without its value stays, to be refused.
+    QCOMPARE(left, QStringList({"viewer", "scene.json", "-platform", "minimal", "--plugin"}));
+    QCOMPARE(arguments.at(count), nullptr);
 }
 
 void tst_CommandLine::shouldAnswerHelpAndVersion()

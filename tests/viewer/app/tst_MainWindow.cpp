@@ -46,6 +46,7 @@ public:
         red.fill(Qt::red);
         auto *content = new ModuleWindow(this);
         content->setMinimumWidth(100);
+        content->statusBar()->setSizeGripEnabled(true);
         MainWindowService(this).registerModule(name, category, content, "a help id", QIcon(red),
                                                title, 0);
         return content;
@@ -115,6 +116,7 @@ void tst_MainWindow::shouldDockAModuleWithItsWindowTitleAndIcon()
     window.setVisible(true);
     QTRY_VERIFY(content->isVisible());
     QVERIFY(!content->isWindow());
+    QVERIFY(!content->findChild<QStatusBar *>()->isSizeGripEnabled());
 }
 
 void tst_MainWindow::shouldListModulesByCategory()
@@ -176,7 +178,7 @@ void tst_MainWindow::shouldGiveThePanelItsUsualWidth()
     window.restoreLayout(QSettings(m_folder->filePath("none.ini"), QSettings::IniFormat));
     QCOMPARE(window.size(), QSize(1600, 1000));
     window.setVisible(true);
-    QTRY_COMPARE(window.modulePanels()->dock("Editor")->width(), 460);
+    QTRY_COMPARE(window.modulePanels()->dock("Editor")->width(), 700);
 }
 
 void tst_MainWindow::shouldRememberTheLayout()
@@ -188,8 +190,8 @@ void tst_MainWindow::shouldRememberTheLayout()
         window.add("Other", "Scene", "Other");
         window.restoreLayout(settings);
         window.setVisible(true);
-        QTRY_COMPARE(window.modulePanels()->dock("Editor")->width(), 460);
-        window.resize(700, 555);
+        QTRY_COMPARE(window.modulePanels()->dock("Editor")->width(), 700);
+        window.resize(900, 555);
         window.addDockWidget(Qt::LeftDockWidgetArea, window.modulePanels()->dock("Editor"));
         window.resizeDocks({window.modulePanels()->dock("Editor")}, {222}, Qt::Horizontal);
         window.modulePanels()->dock("Other")->close();
@@ -201,7 +203,7 @@ void tst_MainWindow::shouldRememberTheLayout()
     window.add("Other", "Scene", "Other");
     window.restoreLayout(settings);
     window.setVisible(true);
-    QTRY_COMPARE(window.size(), QSize(700, 555));
+    QTRY_COMPARE(window.size(), QSize(900, 555));
     QDockWidget *dock = window.modulePanels()->dock("Editor");
     QCOMPARE(window.dockWidgetArea(dock), Qt::LeftDockWidgetArea);
     QTRY_COMPARE(dock->width(), 222);
@@ -217,7 +219,7 @@ void tst_MainWindow::shouldUseTheDefaultLayoutWhereTheRememberedOneIsBroken()
     window.add("Editor");
     window.restoreLayout(settings);
     window.setVisible(true);
-    QTRY_COMPARE(window.modulePanels()->dock("Editor")->width(), 460);
+    QTRY_COMPARE(window.modulePanels()->dock("Editor")->width(), 700);
 }
 
 void tst_MainWindow::shouldKeepTheFullScreenSwitchInStepWithTheWindow()

@@ -17,9 +17,11 @@ private Q_SLOTS:
     void shouldStopBetweenFloorAndZenith();
     void shouldKeepItsDistanceWhileOrbiting();
     void shouldComeNearerWithTheWheelWithinLimits();
+    void shouldKeepTheTargetUnderTheMouseWhenPanning_data();
     void shouldKeepTheTargetUnderTheMouseWhenPanning();
     void shouldNotPanOutOfTheStudio();
     void shouldLookAtTheTarget();
+    void shouldShowTheModelFromSideToSideInANarrowView();
     void shouldReturnToTheStart();
 };
 
@@ -77,9 +79,16 @@ void tst_OrbitCamera::shouldComeNearerWithTheWheelWithinLimits()
     QCOMPARE(camera.distance(), OrbitCamera::MaxDistance);
 }
 
+void tst_OrbitCamera::shouldKeepTheTargetUnderTheMouseWhenPanning_data()
+{
+    QTest::addColumn<float>("aspect");
+    QTest::newRow("wide") << 1.6f;
+    QTest::newRow("narrow") << 0.7f;
+}
+
 void tst_OrbitCamera::shouldKeepTheTargetUnderTheMouseWhenPanning()
 {
-    constexpr float aspect = 1.6f;
+    QFETCH(float, aspect);
     OrbitCamera camera;
     const QVector3D grabbed = camera.target();
     camera.pan({0.1, 0.2}, aspect);
@@ -104,6 +113,18 @@ void tst_OrbitCamera::shouldLookAtTheTarget()
     camera.orbit({0.2, 0.1});
     const QVector3D seen = OrbitCamera::projection(1) * camera.view() * camera.target();
     QVERIFY(qAbs(seen.x()) < 1e-4f && qAbs(seen.y()) < 1e-4f);
+}
+
+void tst_OrbitCamera::shouldShowTheModelFromSideToSideInANarrowView()
+{
+    const OrbitCamera camera;
+    const auto placeIn = [&camera](float aspect) {
+        return (OrbitCamera::projection(aspect) * camera.view() * QVector3D(1.9f, 0, 0.6f)).x();
+    };
+    QVERIFY(qAbs(placeIn(0.5f)) < 1);
+    QVERIFY(qAbs(placeIn(0.5f) - placeIn(1.2f)) < 1e-4f);
+    // A wider view shows more at its sides.
+    QVERIFY(qAbs(placeIn(2.0f)) < qAbs(placeIn(1.2f)));
 }
 
 void tst_OrbitCamera::shouldReturnToTheStart()
