@@ -75,7 +75,7 @@ private:
     void takeFromDialog(const QColor &color);
 
     QKXColor m_color;
-    hostlib::ColorPart m_chosen;
-    hostlib::ColorPart m_pressed;
+    hostlib::ColorPart m_chosen{};
+    hostlib::ColorPart m_pressed{}; ///< none
     QPointer<QColorDialog> m_dialog;
 };

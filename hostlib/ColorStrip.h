@@ -12,7 +12,7 @@ class QPainter;
 namespace hostlib {
 
 /// What the colour control is made of, from left to right.
-enum class ColorPart { Swatch, Hue, Saturation, Value, None };
+enum class ColorPart { None, Swatch, Hue, Saturation, Value };
 
 /// Where the parts of a colour control lie, and how they are drawn. Made by the control for one event
 /// or one painting; holds no state of its own.

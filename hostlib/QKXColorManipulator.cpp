@@ -40,9 +40,8 @@ static QString nameOf(ColorPart part)
 
 QKXColorManipulator::QKXColorManipulator(QWidget *parent, const char *name)
     : QWidget(parent)
-    , m_chosen(ColorPart::Hue)
-    , m_pressed(ColorPart::None)
 {
+    m_chosen = ColorPart::Hue;
     hostlib::ColorAccessible::install();
     setObjectName(QLatin1String(name));
     setFocusPolicy(Qt::StrongFocus);
