@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "bench/FloorTree.h"
+
+#include <QBrush>
+#include <QPixmap>
+
+namespace {
+
+const int s_idRole = Qt::UserRole + 1;
+const int s_activeRole = Qt::UserRole + 2;
+
+} // namespace
+
+FloorTree::FloorTree(const viewer::Scene &scene) : m_scene(scene), m_icon(QPixmap(16, 16)) {}
+
+void FloorTree::fill()
+{
+    m_items.clear();
+    m_model.clear();
+    for (const QRPC::NodeId id : m_scene.root().children)
+        m_model.invisibleRootItem()->appendRow(createItem(*m_scene.find(id)));
+}
+
+QStandardItem *FloorTree::createItem(const viewer::Node &node)
+{
+    auto *item = new QStandardItem;
+    m_items.insert(node.id, item);
+    item->setData(node.id, s_idRole);
+    item->setText(node.name);
+    item->setDropEnabled(!node.isOverlay());
+    item->setCheckable(true);
+    item->setData(int(node.enabled ? Qt::Checked : Qt::Unchecked), Qt::CheckStateRole);
+    setActive(item, true);
+    for (const QRPC::NodeId id : node.children)
+        item->appendRow(createItem(*m_scene.find(id)));
+    return item;
+}
+
+void FloorTree::setActive(QStandardItem *item, bool active)
+{
+    item->setData(active, s_activeRole);
+    item->setData(m_icon, Qt::DecorationRole);
+    item->setData(QBrush(Qt::white), Qt::ForegroundRole);
+}
+
+void FloorTree::removeAll()
+{
+    while (m_model.rowCount() > 0)
+        qDeleteAll(m_model.takeRow(m_model.rowCount() - 1));
+}
+
+void FloorTree::renameAll()
+{
+    for (QStandardItem *item : qAsConst(m_items))
+        item->setText(QStringLiteral("New name"));
+}
+
+void FloorTree::enableAll()
+{
+    for (QStandardItem *item : qAsConst(m_items)) {
+        item->setData(int(Qt::Unchecked), Qt::CheckStateRole);
+        setActive(item, false);
+    }
+}
+
+void FloorTree::moveAllIntoFirst()
+{
+    QStandardItem *target = m_model.item(0);
+    while (m_model.rowCount() > 1)
+        target->appendRow(m_model.takeRow(1));
+}

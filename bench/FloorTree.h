@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "host/QRPC.h"
+#include "viewer/scene/Scene.h"
+
+#include <QHash>
+#include <QIcon>
+#include <QStandardItemModel>
+
+/// The least that Qt has to do for the same tree: plain items with the same roles, from values that
+/// are at hand, and none of the rules of the module. What the module needs is measured against it.
+class FloorTree
+{
+public:
+    explicit FloorTree(const viewer::Scene &scene);
+
+    QStandardItemModel *model() { return &m_model; }
+
+    /// Empties the model and builds all rows, top-level row by top-level row.
+    void fill();
+    void removeAll();
+    void renameAll();
+    void enableAll();
+
+    /// Moves all other top-level rows, one after the other, to the end of the first one.
+    void moveAllIntoFirst();
+
+private:
+    QStandardItem *createItem(const viewer::Node &node);
+    void setActive(QStandardItem *item, bool active);
+
+    const viewer::Scene &m_scene;
+    QStandardItemModel m_model;
+    QHash<QRPC::NodeId, QStandardItem *> m_items;
+    QIcon m_icon;
+};

@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+// Completes the form's property panel: groups, ranges, texts, icons and connections.
+
+#include "overlayeditor/kxOverlayEditor.h"
+
+#include "host/kxIconManager.h"
+#include "overlayeditor/kxConnect.h"
+#include "overlayeditor/kxOverlayEditorGUIW.h"
+
+#include <QButtonGroup>
+#include <QIcon>
+#include <QPointF>
+
+namespace {
+
+/// Anchors of an overlay on the view: x from left (0) to right (1), y from bottom (0) to top (1).
+struct Anchor
+{
+    const char *text;
+    QPointF position;
+};
+
+} // namespace
+
+void kxOverlayEditor::createPropertiesView()
+{
+    kxConnect(m_window->_overlay_name, SIGNAL(editingFinished()), this, SLOT(nameChanged()));
+
+    auto *typeButtons = new QButtonGroup(this);
+    typeButtons->addButton(m_window->_text_radio_button, 0);
+    typeButtons->addButton(m_window->_image_radio_button, 1);
+    kxConnect(typeButtons, SIGNAL(buttonClicked(int)), this, SLOT(typeChanged(int)));
+
+    kxConnect(m_window->_text_edit, SIGNAL(textChanged()), this, SLOT(textChanged()));
+    m_window->_text_edit->setTabChangesFocus(true);
+    kxConnect(m_window->_font_combo_box, SIGNAL(currentFontChanged(const QFont &)), this,
+              SLOT(fontChanged(const QFont &)));
+    kxConnect(m_window->_color_slider, SIGNAL(colorChanged(float, float, float)), this,
+              SLOT(fontColorChanged(float, float, float)));
+    kxConnect(m_window->_background_slider, SIGNAL(colorChanged(float, float, float)), this,
+              SLOT(fontBackgroundChanged(float, float, float)));
+    kxConnect(m_window->_transparency_slider, SIGNAL(colorChanged(float, float, float)), this,
+              SLOT(fontTransparencyChanged(float, float, float)));
+
+    createSizeAndPositionView();
+
+    setInputEnabled(false);
+    m_window->_overlay_name->setEnabled(false);
+}
+
+void kxOverlayEditor::createSizeAndPositionView()
+{
+    auto *sizeTypeButtons = new QButtonGroup(this);
+    sizeTypeButtons->addButton(m_window->_absolute_radio_button, 0);
+    sizeTypeButtons->addButton(m_window->_relative_radio_button, 1);
+    kxConnect(sizeTypeButtons, SIGNAL(buttonClicked(int)), this, SLOT(sizeTypeChanged(int)));
+
+    kxConnect(m_window->_size_slider, SIGNAL(valueChanged(double)), this,
+              SLOT(sizeChanged(double)));
+    kxConnect(m_window->_size_slider, SIGNAL(sliderReleased()), this, SLOT(sizeSliderChanged()));
+    m_window->_size_slider->setRange(0.0, 200.0);
+    // Until the first refresh, which shows the unit of the selected size type.
+    m_window->_size_slider->setSuffix(QStringLiteral("px"));
+
+    const Anchor anchors[] = {
+        {QT_TR_NOOP("Left"), {0.0, 0.5}},         {QT_TR_NOOP("Right"), {1.0, 0.5}},
+        {QT_TR_NOOP("Top"), {0.5, 1.0}},          {QT_TR_NOOP("Bottom"), {0.5, 0.0}},
+        {QT_TR_NOOP("Center"), {0.5, 0.5}},       {QT_TR_NOOP("Top Left"), {0.0, 1.0}},
+        {QT_TR_NOOP("Top Right"), {1.0, 1.0}},    {QT_TR_NOOP("Bottom Left"), {0.0, 0.0}},
+        {QT_TR_NOOP("Bottom Right"), {1.0, 0.0}},
+    };
+    QComboBox *positions = m_window->_position_combo_box;
+    for (const Anchor &anchor : anchors)
+        positions->insertItem(positions->count(), QIcon(), tr(anchor.text), anchor.position);
+    kxConnect(positions, SIGNAL(currentIndexChanged(int)), this, SLOT(positionChanged(int)));
+
+    const double limit = 2147483647.0;
+    m_window->_offset_x_spin_box->setRange(-limit, limit);
+    kxConnect(m_window->_offset_x_spin_box, SIGNAL(valueChanged(double)), this,
+              SLOT(offsetXChanged(double)));
+    m_window->_offset_y_spin_box->setRange(-limit, limit);
+    kxConnect(m_window->_offset_y_spin_box, SIGNAL(valueChanged(double)), this,
+              SLOT(offsetYChanged(double)));
+}
+
+void kxOverlayEditor::createImageEdit()
+{
+    QKXTextureControls *controls = m_window->_image_edit;
+    controls->setLoadTextureIcon(kxIconManager::getIcon("FileOpen", ""));
+    controls->setReloadTextureIcon(kxIconManager::getIcon("Reload", ""));
+    controls->setSaveTextureIcon(kxIconManager::getIcon("Save", ""));
+    controls->setShowTextureInfoIcon(kxIconManager::getIcon("ShowTextureInfo", ""));
+    controls->setClearTextureIcon(kxIconManager::getIcon("Delete", ""));
+
+    // An overlay has a picture and nothing to map it onto: only the file line remains.
+    controls->setShowUseTextureControls(false);
+    controls->setShowRepeatModeControls(false);
+    controls->setShowRepeatControls(false);
+    controls->setShowOffsetControls(false);
+    controls->setShowRotateControls(false);
+    controls->setShowAnisotropicControls(false);
+    controls->setShowGammaControls(false);
+    controls->setShowAlphaControls(false);
+    controls->setShowAllRepeatModes(false);
+    controls->setShowLinkTextureSettingsControls(false);
+    controls->setShowProjectionModeControls(false);
+    controls->setUseTexture(true);
+
+    m_window->_image_label->hide();
+    controls->hide();
+
+    const kxConnection connections[] = {
+        {SIGNAL(clickedLoadTexture()), SLOT(loadImage())},
+        {SIGNAL(clickedReloadTexture()), SLOT(reloadImage())},
+        {SIGNAL(clickedWriteTexture()), SLOT(writeImage())},
+        {SIGNAL(clickedShowTextureInfo()), SLOT(showTextureInfo())},
+        {SIGNAL(clickedClearTexture()), SLOT(clearImage())},
+        {SIGNAL(changedTexture()), SLOT(changedImage())},
+        {SIGNAL(changedTextureFile(const QString &)), SLOT(setImage(const QString &))},
+    };
+    kxConnectAll(controls, this, connections);
+}
+
+void kxOverlayEditor::setInputEnabled(bool enabled)
+{
+    m_window->_image_radio_button->setEnabled(enabled);
+    m_window->_text_radio_button->setEnabled(enabled);
+    m_window->_text_edit->setEnabled(enabled);
+    m_window->_font_combo_box->setEnabled(enabled);
+    m_window->_color_slider->setEnabled(enabled);
+    m_window->_background_slider->setEnabled(enabled);
+    m_window->_transparency_slider->setEnabled(enabled);
+    m_window->_absolute_radio_button->setEnabled(enabled);
+    m_window->_relative_radio_button->setEnabled(enabled);
+    m_window->_size_slider->setSliderEnabled(enabled);
+    m_window->_position_combo_box->setEnabled(enabled);
+    m_window->_offset_x_spin_box->setEnabled(enabled);
+    m_window->_offset_y_spin_box->setEnabled(enabled);
+}

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QTreeView>
+
+class kxDropTrace;
+class kxOverlayQtModel;
+
+/// The tree view of the editor. Created by the editor, owned by its window; GUI thread only.
+///
+/// It adds one thing to the toolkit's view: after a drop the tree equals the service, and the
+/// dropped nodes are selected. By itself a drop leaves copies that show what the rows showed when
+/// the drag began, and the view then removes every row that is selected by then, dragged or not.
+/// So rows that a filter hides are deselected when a drag begins, and once the drag is over the
+/// model settles what it touched.
+class kxOverlayTreeView : public QTreeView
+{
+    Q_OBJECT
+
+public:
+    explicit kxOverlayTreeView(QWidget *parent = nullptr);
+    ~kxOverlayTreeView() override;
+
+protected:
+    void startDrag(Qt::DropActions supportedActions) override;
+    void dropEvent(QDropEvent *event) override;
+
+private:
+    kxOverlayQtModel *overlayModel() const;
+    void deselectHiddenRows();
+    bool isHidden(QModelIndex index) const;
+    void settle(const kxDropTrace &trace);
+
+    bool m_dragging = false;
+};
