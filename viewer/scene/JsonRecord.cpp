@@ -6,6 +6,7 @@
 #include "viewer/scene/SceneFormat.h"
 
 #include <cmath>
+#include <optional>
 
 namespace viewer {
 
@@ -32,6 +33,18 @@ double checkedNumber(const QString &place, const Json &value)
     if (!(std::abs(number) <= sceneformat::MaxNumber))
         JsonRecord::fail(place, JsonRecord::tr("a number between -1e9 and 1e9"), value);
     return number;
+}
+
+/// Reads "#rrggbb" or "#rrggbbaa".
+std::optional<QColor> parsedColor(const std::string &text)
+{
+    const bool isHex = text.find_first_not_of("0123456789abcdefABCDEF", 1) == std::string::npos;
+    if ((text.size() != 7 && text.size() != 9) || text.front() != '#' || !isHex)
+        return std::nullopt;
+    const auto bits = uint(std::stoul(text.substr(1), nullptr, 16));
+    const uint rgba = text.size() == 9 ? bits : (bits << 8U) | 0xffU;
+    return QColor(int(rgba >> 24U), int(rgba >> 16U & 0xffU), int(rgba >> 8U & 0xffU),
+                  int(rgba & 0xffU));
 }
 
 /// Whether a value nests deeper than the format allows; without recursion, since it may.
@@ -110,18 +123,11 @@ QColor JsonRecord::color(const char *key, const QColor &missing)
         return missing;
     if (found->is_null())
         return {};
-    const QString digits =
-        found->is_string() ? QString::fromStdString(found->get_ref<const std::string &>()).mid(1)
-                           : QString();
-    bool isHex = false;
-    const uint bits = digits.toUInt(&isHex, 16);
-    const bool isColor = isHex && (digits.size() == 6 || digits.size() == 8)
-                         && found->get_ref<const std::string &>().front() == '#'
-                         && digits.at(0) != QLatin1Char('+');
-    if (!isColor)
-        fail(placeOf(key), tr("a colour such as \"#ff8800\" or \"#ff880080\", or null"), *found);
-    const uint rgba = digits.size() == 8 ? bits : (bits << 8U) | 0xffU;
-    return {int(rgba >> 24U), int(rgba >> 16U & 0xffU), int(rgba >> 8U & 0xffU), int(rgba & 0xffU)};
+    const std::optional<QColor> read =
+        found->is_string() ? parsedColor(found->get_ref<const std::string &>()) : std::nullopt;
+    if (!read)
+        fail(placeOf(key), tr(R"(a colour such as "#ff8800" or "#ff880080", or null)"), *found);
+    return *read;
 }
 
 int JsonRecord::choice(const char *key, const QStringList &choices, bool needed)

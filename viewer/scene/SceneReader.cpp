@@ -195,7 +195,7 @@ QString syntaxFault(const Json::parse_error &error)
 QString overflowFault(const Json::out_of_range &error, const QByteArray &content)
 {
     const QByteArray number = QByteArray(error.what()).split('\'').value(1);
-    return atByte(std::size_t(content.indexOf(number) + 1),
+    return atByte(std::size_t(content.indexOf(number)) + 1,
                   SceneReader::tr("expected a number between -1e9 and 1e9, found %1")
                       .arg(QString::fromLatin1(number)));
 }

@@ -10,7 +10,6 @@
 #include <QTemporaryDir>
 
 using viewer::Node;
-using viewer::Scene;
 using viewer::SceneReader;
 using viewer::SceneReading;
 using viewer::SceneWriter;

@@ -42,6 +42,19 @@ QByteArray nested(int levels)
     return sceneWith(text + QByteArray("]}").repeated(levels));
 }
 
+/// A file that is refused: its content, how the message goes on after the file's name, and a part.
+void addRefusalColumns()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("begin");
+    QTest::addColumn<QString>("part");
+}
+
+void row(const char *what, const QByteArray &content, const char *begin, const char *part)
+{
+    QTest::newRow(what) << content << QString(begin) << QString::fromUtf8(part);
+}
+
 const Node &only(const Scene &scene, const Node &parent)
 {
     return *scene.find(parent.children.front());
@@ -62,8 +75,10 @@ private Q_SLOTS:
     void shouldKeepTheFirstEnabledChildOfASwitch();
     void shouldReadTheDeepestTree();
     void shouldReadTransparentAndAbsentColours();
-    void shouldRefuseWithThePlace_data();
-    void shouldRefuseWithThePlace();
+    void shouldRefuseWhatIsNoScene_data();
+    void shouldRefuseWhatIsNoScene();
+    void shouldRefuseValuesWithTheirPlace_data();
+    void shouldRefuseValuesWithTheirPlace() { shouldRefuseWhatIsNoScene(); }
     void shouldRefuseWhatIsNoFile();
     void shouldRefuseAFileThatIsTooLarge();
     void shouldNotNameAllLevelsOfADeepPlace();
@@ -176,16 +191,9 @@ void tst_SceneReader::shouldReadTransparentAndAbsentColours()
     QVERIFY(!overlay.backgroundColor.isValid());
 }
 
-void tst_SceneReader::shouldRefuseWithThePlace_data()
+void tst_SceneReader::shouldRefuseWhatIsNoScene_data()
 {
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("begin");
-    QTest::addColumn<QString>("part");
-    const auto row = [](const char *what, const QByteArray &content, const char *begin,
-                        const char *part) {
-        QTest::newRow(what) << content << QString(begin) << QString::fromUtf8(part);
-    };
-    const QString place = "/overlays/1/children/0/";
+    addRefusalColumns();
     const auto byteOf = [](const QByteArray &content, const char *part) {
         return QByteArray("byte " + QByteArray::number(content.indexOf(part) + 1) + ":");
     };
@@ -195,7 +203,8 @@ void tst_SceneReader::shouldRefuseWithThePlace_data()
     row("something behind", sceneWith("") + "x", "byte 58", "JSON");
     const QByteArray noNumber = overlayWith(R"("size": NaN)");
     row("not a number of JSON", noNumber, byteOf(noNumber, "NaN"), "JSON");
-    const QByteArray noText = sceneWith("{\"kind\": \"overlay\", \"name\": \"\xff\"}");
+    const QByteArray noText =
+        sceneWith(R"({"kind": "overlay", "name": ")" + QByteArray("\xff") + R"("})");
     row("not UTF-8", noText, byteOf(noText, "\xff"), "UTF-8");
     const QByteArray beyond = overlayWith(R"("size": 1e999)");
     row("number beyond all", beyond, byteOf(beyond, "1e999"), "found 1e999");
@@ -211,14 +220,27 @@ void tst_SceneReader::shouldRefuseWithThePlace_data()
     row("overlays of another type",
         R"({"format": "overlay-scene", "version": 1, "overlays": {"a": 1}})", "/overlays",
         "expected a list, found an object");
+    row("too deep", nested(viewer::sceneformat::MaxLevels + 1), "/overlays/0/children/0",
+        "levels of groups");
+    row("an unknown value too deep",
+        sceneWith(R"({"kind": "overlay", "x": )" + QByteArray(101, '[') + QByteArray(101, ']')
+                  + '}'),
+        "/overlays/0/x", "100 levels");
+    row("endless brackets", QByteArray(100000, '['), "byte 100001", "JSON");
+}
+
+void tst_SceneReader::shouldRefuseValuesWithTheirPlace_data()
+{
+    addRefusalColumns();
+    const QString place = "/overlays/1/children/0/";
     row("element of another type", sceneWith("7"), "/overlays/0", "expected an object, found 7");
     row("no kind", sceneWith(R"({"name": "a"})"), "/overlays/0/kind", "found nothing");
-    row("unknown kind", sceneWith(R"({"kind": "cube"})"), "/overlays/0/kind", "the text \"cube\"");
+    row("unknown kind", sceneWith(R"({"kind": "cube"})"), "/overlays/0/kind", R"(the text "cube")");
     row("name", overlayWith(R"("name": 1)"), qPrintable(place + "name"), "a text, found 1");
     row("enabled", overlayWith(R"("enabled": "yes")"), qPrintable(place + "enabled"),
-        "true or false, found the text \"yes\"");
+        R"(true or false, found the text "yes")");
     row("type", overlayWith(R"("type": "video")"), qPrintable(place + "type"),
-        "\"text\" or \"image\"");
+        R"("text" or "image")");
     row("text", overlayWith(R"("text": null)"), qPrintable(place + "text"), "found null");
     row("font", overlayWith(R"("font": [])"), qPrintable(place + "font"), "a text");
     row("colour of a name", overlayWith(R"("fontColor": "red")"), qPrintable(place + "fontColor"),
@@ -229,13 +251,15 @@ void tst_SceneReader::shouldRefuseWithThePlace_data()
         "a colour");
     row("colour with a sign", overlayWith(R"("backgroundColor": "#+12345")"),
         qPrintable(place + "backgroundColor"), "a colour");
+    row("colour with a blank", overlayWith(R"("backgroundColor": "# 12345")"),
+        qPrintable(place + "backgroundColor"), "a colour");
     row("colour without mark", overlayWith(R"("backgroundTransparency": "1234567")"),
         qPrintable(place + "backgroundTransparency"), "a colour");
     row("image", overlayWith(R"("image": true)"), qPrintable(place + "image"), "found true");
     row("size type", overlayWith(R"("sizeType": 1)"), qPrintable(place + "sizeType"),
-        "\"absolute\" or \"relative\"");
+        R"("absolute" or "relative")");
     row("size", overlayWith(R"("size": "big")"), qPrintable(place + "size"),
-        "expected a number, found the text \"big\"");
+        R"(expected a number, found the text "big")");
     row("size out of range", overlayWith(R"("size": 1e10)"), qPrintable(place + "size"),
         "between -1e9 and 1e9");
     row("position of one", overlayWith(R"("position": [1])"), qPrintable(place + "position"),
@@ -248,16 +272,9 @@ void tst_SceneReader::shouldRefuseWithThePlace_data()
         "nothing in an overlay");
     row("children of another type", sceneWith(R"({"kind": "group", "children": 1})"),
         "/overlays/0/children", "a list");
-    row("too deep", nested(viewer::sceneformat::MaxLevels + 1), "/overlays/0/children/0",
-        "levels of groups");
-    row("an unknown value too deep",
-        sceneWith(R"({"kind": "overlay", "x": )" + QByteArray(101, '[') + QByteArray(101, ']')
-                  + '}'),
-        "/overlays/0/x", "100 levels");
-    row("endless brackets", QByteArray(100000, '['), "byte 100001", "JSON");
 }
 
-void tst_SceneReader::shouldRefuseWithThePlace()
+void tst_SceneReader::shouldRefuseWhatIsNoScene()
 {
     QFETCH(QByteArray, content);
     QFETCH(QString, begin);
