@@ -38,8 +38,7 @@ static QString nameOf(ColorPart part)
     }
 }
 
-QKXColorManipulator::QKXColorManipulator(QWidget *parent, const char *name)
-    : QWidget(parent)
+QKXColorManipulator::QKXColorManipulator(QWidget *parent, const char *name) : QWidget(parent)
 {
     m_chosen = ColorPart::Hue;
     hostlib::ColorAccessible::install();
