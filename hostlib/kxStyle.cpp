@@ -3,6 +3,7 @@
 
 #include "host/kxStyle.h"
 
+#include "host/kxIconManager.h"
 #include "hostlib/kxStyleColors.h"
 #include "hostlib/kxStyleControls.h"
 
@@ -112,6 +113,20 @@ int kxStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
     }
     default:
         return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
+
+QIcon kxStyle::standardIcon(StandardPixmap icon, const QStyleOption *option,
+                            const QWidget *widget) const
+{
+    switch (icon) {
+    case SP_TitleBarCloseButton:
+    case SP_DockWidgetCloseButton:
+        return kxIconManager::getIcon("Clear", std::string());
+    case SP_TitleBarNormalButton:
+        return kxIconManager::getIcon("Float", std::string());
+    default:
+        return QProxyStyle::standardIcon(icon, option, widget);
     }
 }
 

@@ -29,6 +29,7 @@ const char *const names[] = {
     "Clear",
     "Undo",
     "Redo",
+    "Float",
     "Home",
     "ResetView",
     "Application",
