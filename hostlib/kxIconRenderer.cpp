@@ -27,8 +27,8 @@ struct Key
 
     bool operator==(const Key &other) const
     {
-        return std::tie(look, pixels, ratio, name) ==
-               std::tie(other.look, other.pixels, other.ratio, other.name);
+        return std::tie(look, pixels, ratio, name)
+               == std::tie(other.look, other.pixels, other.ratio, other.name);
     }
 };
 

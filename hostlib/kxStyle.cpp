@@ -134,8 +134,7 @@ int kxStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget
                        QStyleHintReturn *returnData) const
 {
     switch (hint) {
-    case SH_ComboBox_Popup:
-        return 0; // a list below the box, with the box still in sight
+    case SH_ComboBox_Popup: // off: a list below the box, with the box still in sight
     case SH_DialogButtonBox_ButtonsHaveIcons:
     case SH_EtchDisabledText:
     case SH_DitherDisabledText:

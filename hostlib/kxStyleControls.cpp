@@ -33,6 +33,11 @@ QColor markOf(const QStyleOption *option)
     return isEnabled(option) ? kxStyleColors::text : kxStyleColors::textDisabled;
 }
 
+QColor mixedLineOf(const QStyleOption *option)
+{
+    return isEnabled(option) ? kxStyleColors::mixed : kxStyleColors::border;
+}
+
 QColor buttonGround(const QStyleOption *option)
 {
     if (!isEnabled(option))
@@ -197,11 +202,10 @@ void kxStyleControls::drawRadioIndicator(const QStyleOption *option, QPainter *p
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     const QRectF ring = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
-    const QColor line =
-        mixed && isEnabled(option) ? QColor(kxStyleColors::mixed) : borderOf(option);
-    const QRgb ground = mixed               ? kxStyleColors::mixedGround
-                        : isEnabled(option) ? kxStyleColors::base
-                                            : kxStyleColors::window;
+    const QColor line = mixed ? mixedLineOf(option) : borderOf(option);
+    const QRgb ground = !isEnabled(option) ? kxStyleColors::window
+                        : mixed            ? kxStyleColors::mixedGround
+                                           : kxStyleColors::base;
     painter->setPen(QPen(line, 1, mixed ? Qt::DashLine : Qt::SolidLine));
     painter->setBrush(QColor(ground));
     painter->drawEllipse(ring);

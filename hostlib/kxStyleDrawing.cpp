@@ -26,8 +26,8 @@ constexpr qreal staleOpacity = 0.5;
 bool isInnerEdit(const QWidget *widget)
 {
     const QWidget *parent = widget ? widget->parentWidget() : nullptr;
-    return qobject_cast<const QAbstractSpinBox *>(parent) ||
-           qobject_cast<const QComboBox *>(parent);
+    return qobject_cast<const QAbstractSpinBox *>(parent)
+           || qobject_cast<const QComboBox *>(parent);
 }
 
 // A mixed field shows no value without the focus, and its old text dimmed with it. The field draws
@@ -82,6 +82,16 @@ Option withoutState(const Option &option)
     return neutral;
 }
 
+// A menu stands out from the fields that it opens over.
+void drawMenuPanel(const QStyleOption *option, QPainter *painter)
+{
+    painter->save();
+    painter->setPen(QColor(kxStyleColors::border));
+    painter->setBrush(QColor(kxStyleColors::window));
+    painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+    painter->restore();
+}
+
 // A row keeps the colour of its own text when it is selected: the name of a node that does not show
 // stays distinct.
 QStyleOptionViewItem withOwnTextColor(const QStyleOptionViewItem &option)
@@ -117,8 +127,10 @@ void drawSlanted(QPainter *painter, Draw draw)
 
 void drawGround(QWidget *viewport)
 {
+    // The frame of the editor goes round it already: of the field's own only the edge is wanted.
     QPainter painter(viewport);
-    kxStyle::drawMixedField(&painter, viewport->rect(), viewport->isEnabled());
+    kxStyle::drawMixedField(&painter, viewport->rect().adjusted(0, -4, 4, 4),
+                            viewport->isEnabled());
 }
 
 // The words on the first line, where the text would begin; over a text that is being edited, a veil
@@ -148,6 +160,8 @@ void kxStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option
         return kxStyleControls::drawField(option, painter, kxStyleControls::isMixed(widget));
     case PE_Frame:
         return drawAreaFrame(option, painter, widget);
+    case PE_PanelMenu:
+        return drawMenuPanel(option, painter);
     case PE_FrameFocusRect:
         if (qobject_cast<const QPushButton *>(widget))
             return; // its panel carries the frame

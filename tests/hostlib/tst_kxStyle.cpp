@@ -472,8 +472,7 @@ void tst_kxStyle::shouldGrowIndicatorsWithTheText()
         option.initFrom(&box);
         return box.style()->pixelMetric(QStyle::PM_IndicatorWidth, &option, &box);
     };
-    const int small = side(12);
-    QVERIFY(side(36) >= small * 2);
+    QVERIFY(side(36) >= side(12) * 2);
 }
 
 void tst_kxStyle::shouldFallBackToADashWhereTheWordsDoNotFit()
