@@ -59,4 +59,5 @@ private:
     hostlib::FrameHeader *m_header;
     QWidget *m_body;
     QVBoxLayout *m_pages;
+    QSizePolicy::Policy m_expandedPolicy = QSizePolicy::Preferred; ///< what folding replaces
 };

@@ -128,7 +128,10 @@ void QKXCollapsibleFrame::showPages(bool expanded)
         m_header->setFocus();
     m_body->setVisible(expanded);
     // A folded frame keeps to its header; the space goes to its neighbours.
-    setSizePolicy(sizePolicy().horizontalPolicy(),
-                  expanded ? QSizePolicy::Preferred : QSizePolicy::Fixed);
+    QSizePolicy policy = sizePolicy();
+    if (!expanded)
+        m_expandedPolicy = policy.verticalPolicy();
+    policy.setVerticalPolicy(expanded ? m_expandedPolicy : QSizePolicy::Fixed);
+    setSizePolicy(policy);
     Q_EMIT toggled(expanded);
 }

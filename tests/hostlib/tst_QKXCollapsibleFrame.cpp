@@ -29,6 +29,7 @@ private Q_SLOTS:
     void shouldFoldAndUnfoldByKeys_data();
     void shouldFoldAndUnfoldByKeys();
     void shouldGiveItsSpaceAwayWhileFolded();
+    void shouldTakeItsSizePolicyBackWhenUnfolded();
     void shouldKeepTheFocusOnTheHeaderWhenAPageWithTheFocusFolds();
     void shouldTellAssistiveToolsItsNameAndState();
     void shouldLineLabelsUpAcrossFrames();
@@ -164,6 +165,16 @@ void tst_QKXCollapsibleFrame::shouldGiveItsSpaceAwayWhileFolded()
     QTRY_COMPARE(m_first->height(), headerOf(m_first)->sizeHint().height());
     m_first->setExpanded(true);
     QTRY_VERIFY(m_first->height() > 3 * headerOf(m_first)->height());
+}
+
+void tst_QKXCollapsibleFrame::shouldTakeItsSizePolicyBackWhenUnfolded()
+{
+    QSizePolicy policy(QSizePolicy::MinimumExpanding, QSizePolicy::Maximum);
+    policy.setVerticalStretch(3);
+    m_first->setSizePolicy(policy);
+    m_first->setExpanded(false);
+    m_first->setExpanded(true);
+    QCOMPARE(m_first->sizePolicy(), policy);
 }
 
 void tst_QKXCollapsibleFrame::shouldKeepTheFocusOnTheHeaderWhenAPageWithTheFocusFolds()
