@@ -11,10 +11,7 @@
 #include "host/kxOverlayService.h"
 #include "host/kxPlatformService.h"
 
-kxBaseService::kxBaseService(QObject *parent)
-    : QObject(parent)
-{
-}
+kxBaseService::kxBaseService(QObject *parent) : QObject(parent) {}
 
 kxBaseService::~kxBaseService() = default;
 kxControllerService::~kxControllerService() = default;

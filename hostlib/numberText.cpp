@@ -22,8 +22,8 @@ static QByteArray shortestText(float value)
 
 static bool isFloat(double value)
 {
-    return std::abs(value) <= double(std::numeric_limits<float>::max()) &&
-           double(float(value)) == value;
+    return std::abs(value) <= double(std::numeric_limits<float>::max())
+           && double(float(value)) == value;
 }
 
 static int decimalsIn(const QByteArray &text)

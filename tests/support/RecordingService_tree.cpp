@@ -233,7 +233,8 @@ void RecordingService::groupNodes(const QRPC::NodeList &nodes)
 
 void RecordingService::moveNodes(const QRPC::NodeList &nodes, QRPC::NodeId newParent, int row)
 {
-    const QString line = noteWrite("moveNodes", nodes, QStringLiteral("%1 %2").arg(newParent).arg(row));
+    const QString line =
+        noteWrite("moveNodes", nodes, QStringLiteral("%1 %2").arg(newParent).arg(row));
     Node *target = find(newParent);
     if (m_applies && target && target->kind != Kind::Overlay)
         applyMove(nodes, target, row);
@@ -290,10 +291,9 @@ void RecordingService::enterDisabled(const QVector<Node *> &entered, QRPC::NodeL
     const Node *parent = entered.first()->parent;
     if (parent->kind != Kind::Switch)
         return;
-    bool shown = std::any_of(parent->children.cbegin(), parent->children.cend(),
-                             [&entered](Node *child) {
-                                 return child->enabled && !entered.contains(child);
-                             });
+    bool shown =
+        std::any_of(parent->children.cbegin(), parent->children.cend(),
+                    [&entered](Node *child) { return child->enabled && !entered.contains(child); });
     for (Node *node : entered) {
         if (node->enabled && shown) {
             node->enabled = false;
@@ -305,8 +305,8 @@ void RecordingService::enterDisabled(const QVector<Node *> &entered, QRPC::NodeL
 
 void RecordingService::setEnabled(const QRPC::NodeList &nodes, bool enabled)
 {
-    const QString line = noteWrite("setEnabled", nodes,
-                                   enabled ? QStringLiteral("true") : QStringLiteral("false"));
+    const QString line =
+        noteWrite("setEnabled", nodes, enabled ? QStringLiteral("true") : QStringLiteral("false"));
     if (m_applies)
         applyEnabled(nodes, enabled);
     finish(line);

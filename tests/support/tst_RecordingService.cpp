@@ -147,8 +147,8 @@ void tst_RecordingService::shouldMoveInSourceRowOrderBeforeTheAnchor_data()
     QTest::addColumn<QRPC::NodeId>("target");
     QTest::addColumn<int>("row");
     QTest::addColumn<QString>("after");
-    const auto add = [](const char *title, const QRPC::NodeList &nodes, QRPC::NodeId target, int row,
-                        const char *after) {
+    const auto add = [](const char *title, const QRPC::NodeList &nodes, QRPC::NodeId target,
+                        int row, const char *after) {
         QTest::newRow(title) << nodes << target << row << QString::fromLatin1(after);
     };
     add("up", {5}, 1, 0, "c5 g2(a3 b4) h6(d7) e8");

@@ -234,7 +234,9 @@ void tst_kxOverlayItem::shouldLeaveOtherEntriesWhenDestroyed()
     kxOverlayItem shown(2);
     s_itemMap[2] = &shown;
     delete shown.clone();
-    { const kxOverlayItem second(2); }
+    {
+        const kxOverlayItem second(2);
+    }
     QCOMPARE(s_itemMap[2], &shown);
     s_itemMap.clear();
     delete shown.clone();

@@ -254,13 +254,14 @@ void tst_kxOverlayQtModel_script::shouldShowTheServicesTreeAfterEachStep()
     std::mt19937 random(seed);
     Script script;
     for (int i = 0; i < 60; ++i)
-        script.append(Step{int(random() % 1000), quint32(random()), quint32(random()),
-                           quint32(random())});
+        script.append(
+            Step{int(random() % 1000), quint32(random()), quint32(random()), quint32(random())});
     if (run(script).isEmpty())
         return;
     QStringList told;
     const QString difference = run(shortened(script), &told);
-    QFAIL(qPrintable(QStringLiteral("seed %1:\n%2\n%3").arg(seed).arg(told.join('\n'), difference)));
+    QFAIL(
+        qPrintable(QStringLiteral("seed %1:\n%2\n%3").arg(seed).arg(told.join('\n'), difference)));
 }
 
 KX_TEST_MAIN(tst_kxOverlayQtModel_script)

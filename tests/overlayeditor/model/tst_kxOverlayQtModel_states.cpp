@@ -41,7 +41,9 @@ void tst_kxOverlayQtModel_states::shouldShowNewNames()
 void tst_kxOverlayQtModel_states::shouldAskForEachNameOnce()
 {
     fill("g2(a3) b4");
-    QCOMPARE(callsOf([this] { Q_EMIT service().nameChanged({4, 2}); }),
+    QCOMPARE(callsOf([this] {
+                 Q_EMIT service().nameChanged({4, 2});
+             }),
              (QStringList{"getRootNode", "getName 4", "getRootNode", "getName 2"}));
 }
 
@@ -123,9 +125,10 @@ void tst_kxOverlayQtModel_states::shouldRefreshEverySiblingUnderASwitch()
 void tst_kxOverlayQtModel_states::shouldAskForEachSiblingUnderASwitch()
 {
     fill("s2*(a3 b4-)");
-    QCOMPARE(callsOf([this] { Q_EMIT service().enabledStateChanged({3}); }),
-             (QStringList{"getRootNode", "isEnabled 3", "isActive 2", "isSwitch 2", "isEnabled 3",
-                          "isEnabled 4", "isActive 4", "isOverlay 4", "isActive 3", "isOverlay 3"}));
+    QCOMPARE(
+        callsOf([this] { Q_EMIT service().enabledStateChanged({3}); }),
+        (QStringList{"getRootNode", "isEnabled 3", "isActive 2", "isSwitch 2", "isEnabled 3",
+                     "isEnabled 4", "isActive 4", "isOverlay 4", "isActive 3", "isOverlay 3"}));
 }
 
 void tst_kxOverlayQtModel_states::shouldLeaveSiblingsAloneInAGroup()

@@ -53,13 +53,12 @@ void tst_kxOverlayQtModel_structure::shouldDeclareItsSlotsInOrder()
         if (meta->method(i).methodType() == QMetaMethod::Slot)
             declared.append(QString::fromLatin1(meta->method(i).methodSignature()));
     }
-    QCOMPARE(declared, (QStringList{"nodeAddedUpdate(QRPC::NodeId)",
-                                    "nodeRemovedUpdate(QRPC::NodeId)",
-                                    "nodesAddedUpdate(QRPC::NodeList)",
-                                    "nodesRemovedUpdate(QRPC::NodeList)",
-                                    "nodesMoved(QRPC::NodeList,QRPC::NodeList,QRPC::NodeList)",
-                                    "updateName(QRPC::NodeList)",
-                                    "updateEnabledState(QRPC::NodeList)", "modelReset()"}));
+    QCOMPARE(declared,
+             (QStringList{"nodeAddedUpdate(QRPC::NodeId)", "nodeRemovedUpdate(QRPC::NodeId)",
+                          "nodesAddedUpdate(QRPC::NodeList)", "nodesRemovedUpdate(QRPC::NodeList)",
+                          "nodesMoved(QRPC::NodeList,QRPC::NodeList,QRPC::NodeList)",
+                          "updateName(QRPC::NodeList)", "updateEnabledState(QRPC::NodeList)",
+                          "modelReset()"}));
 }
 
 void tst_kxOverlayQtModel_structure::shouldBeConnectedToTheServiceOnce()
@@ -246,7 +245,9 @@ void tst_kxOverlayQtModel_structure::shouldAskNothingButTheRootForARemoval()
 {
     fill("g2(a3) b4 c5");
     service().erase({2, 4});
-    QCOMPARE(callsOf([this] { Q_EMIT service().nodesRemoved({2, 4}); }),
+    QCOMPARE(callsOf([this] {
+                 Q_EMIT service().nodesRemoved({2, 4});
+             }),
              (QStringList{"getRootNode", "getRootNode"}));
 }
 
