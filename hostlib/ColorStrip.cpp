@@ -16,17 +16,28 @@ namespace hostlib {
 static constexpr int s_gap = 10;
 static constexpr int s_inset = 3; // room for the focus frame
 static constexpr int s_swatchWidth = 28;
+static constexpr float s_leastBarValue = 0.4f;
 static constexpr ColorPart s_parts[] = {ColorPart::Swatch, ColorPart::Hue, ColorPart::Saturation,
                                         ColorPart::Value};
 
-/// Two colours suffice for saturation and value, which are linear in red, green and blue; the hue
-/// bar shows pure colours, so that it stands still while the others change.
+/// The colour that a bar varies. The hue bar shows pure colours, so that it stands still while the
+/// others change; the saturation bar of a dark colour is lightened, since black all over says nothing.
+static QKXColor baseOf(const QKXColor &color, ColorPart part)
+{
+    if (part == ColorPart::Hue)
+        return QKXColor(0.0f, 1.0f, 1.0f);
+    if (part == ColorPart::Saturation)
+        return QKXColor(color.hue, color.saturation, std::max(color.value, s_leastBarValue));
+    return color;
+}
+
+/// Two colours suffice for saturation and value, which are linear in red, green and blue.
 static QLinearGradient gradientOf(const QKXColor &color, ColorPart part)
 {
     QLinearGradient gradient(0.0, 0.0, 1.0, 0.0);
     gradient.setCoordinateMode(QGradient::ObjectMode);
     const int stops = part == ColorPart::Hue ? 6 : 1;
-    const QKXColor base = part == ColorPart::Hue ? QKXColor(0.0f, 1.0f, 1.0f) : color;
+    const QKXColor base = baseOf(color, part);
     for (int stop = 0; stop <= stops; ++stop) {
         const float share = float(stop) / float(stops);
         gradient.setColorAt(double(share), ColorStrip::withShare(base, part, share).toColor());

@@ -42,6 +42,7 @@ private Q_SLOTS:
     void shouldNotMoveABarWhileMixed();
     void shouldSendAnEditOfAMixedColorEvenWhenItIsTheOneShown();
     void shouldLookUnlikeWhenMixedDisabledAndFocused();
+    void shouldShowWhereTheSaturationOfBlackLeads();
     void shouldTellAssistiveToolsItsColor();
 
 private:
@@ -315,6 +316,14 @@ void tst_QKXColorManipulator::shouldLookUnlikeWhenMixedDisabledAndFocused()
     QVERIFY(mixed.pixelColor(m_swatch) != QColor(51, 102, 51));
     m_control->setColor(QColor(1, 2, 3));
     QCOMPARE(picture(), mixed); // the colour of one of several nodes does not shine through
+}
+
+void tst_QKXColorManipulator::shouldShowWhereTheSaturationOfBlackLeads()
+{
+    m_control->setColor(QKXColor(120.0f, 0.0f, 0.0f));
+    const QColor pure = picture().pixelColor(m_saturation + QPoint(30, 0));
+    QVERIFY(pure.green() > 80);
+    QVERIFY(pure.red() < 40);
 }
 
 void tst_QKXColorManipulator::shouldTellAssistiveToolsItsColor()
