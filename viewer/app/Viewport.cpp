@@ -39,6 +39,9 @@ Viewport::Viewport(QWidget *parent) : QOpenGLWidget(parent)
 
 Viewport::~Viewport()
 {
+    // The base class destroys the context, which would call back into what is gone by then.
+    if (context())
+        context()->disconnect(this);
     releaseRenderer();
 }
 
