@@ -18,7 +18,7 @@ Scene build(const QString &text)
 {
     Scene scene;
     QVector<NodeId> parents{Scene::RootId};
-    const QRegularExpression token(QStringLiteral("([^\\s(){}-]+)(-?)([({]?)|[)}]"));
+    static const QRegularExpression token(QStringLiteral("([^\\s(){}-]+)(-?)([({]?)|[)}]"));
     auto matches = token.globalMatch(text);
     while (matches.hasNext()) {
         const QRegularExpressionMatch match = matches.next();
