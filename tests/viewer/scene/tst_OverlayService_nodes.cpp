@@ -44,6 +44,9 @@ private Q_SLOTS:
     void shouldResetWithNewIds();
     void shouldHandleDeepTrees();
     void shouldKnowTheRowsOfManyChildren();
+
+private:
+    bool m_isInsideMove = false;
 };
 
 void tst_OverlayService_nodes::shouldStartWithARootAlone()
@@ -455,14 +458,14 @@ void tst_OverlayService_nodes::shouldIgnoreListsWithoutEffect()
 void tst_OverlayService_nodes::shouldPostponeWhatASlotAddsInsideAMove()
 {
     open("a b g()");
-    bool inside = true;
-    connect(&service(), &kxOverlayService::nodesMoved, this, [&] {
+    m_isInsideMove = true;
+    connect(&service(), &kxOverlayService::nodesMoved, this, [this] {
         service().createOverlay(id("g"));
         service().setName(ids("b"), "renamed");
     });
-    connect(&service(), &kxOverlayService::nodesAdded, this, [&] { QVERIFY(!inside); });
+    connect(&service(), &kxOverlayService::nodesAdded, this, [this] { QVERIFY(!m_isInsideMove); });
     service().moveNodes(ids("a"), id("g"), 0);
-    inside = false;
+    m_isInsideMove = false;
     QCOMPARE(dump(), QString("renamed g(a Text 1)"));
     QCOMPARE(signalLines(), QStringList("nodesMoved a / g / 0"));
     QTRY_VERIFY(sawSignals());
@@ -474,7 +477,7 @@ void tst_OverlayService_nodes::shouldAnnounceThePostponedBeforeTheNextOperation(
 {
     open("a b g()");
     auto once = connect(&service(), &kxOverlayService::nodesMoved, this,
-                        [&] { service().createOverlay(id("g")); });
+                        [this] { service().createOverlay(id("g")); });
     service().moveNodes(ids("a"), id("g"), 0);
     disconnect(once);
     service().deleteNodes(ids("b"));
