@@ -1,7 +1,10 @@
 // SPDX-FileCopyrightText: the Overlay Editor authors
 // SPDX-License-Identifier: MIT
 
+#include "overlayeditor/model/kxDropTrace.h"
 #include "tests/overlayeditor/model/ModelTest.h"
+
+#include <QMimeData>
 
 #include <random>
 
@@ -45,6 +48,7 @@ private:
     QString edit(const Step &step);
     QString duplicate(const Step &step);
     QString group(const Step &step);
+    QString drop(const Step &step);
     QString reset(const Step &step);
 
     QRPC::NodeId anyNode(quint32 pick);
@@ -184,6 +188,39 @@ QString tst_kxOverlayQtModel_script::group(const Step &step)
     return log().lines().first();
 }
 
+/// What the view does: the selected rows are dragged, copies of them are dropped, and the selected
+/// rows are removed. Now and then the service changes something while the drag is on its way.
+QString tst_kxOverlayQtModel_script::drop(const Step &step)
+{
+    QModelIndexList dragged;
+    QVector<QPersistentModelIndex> sources;
+    const QRPC::NodeList nodes = anyNodes(step.a, step.b);
+    for (const QRPC::NodeId id : nodes) {
+        if (id != 0 && !dragged.contains(index(id)))
+            dragged.append(index(id));
+    }
+    std::copy(dragged.cbegin(), dragged.cend(), std::back_inserter(sources));
+    const QRPC::NodeId target = anyContainer(step.c);
+    for (QModelIndex at = index(target); at.isValid(); at = at.parent()) {
+        if (dragged.contains(at))
+            return "a view drops nothing into itself";
+    }
+    const kxDropTrace trace(&model());
+    const std::unique_ptr<QMimeData> data(model().mimeData(dragged));
+    if (step.c % 5 == 0)
+        service().setEnabled({anyNode(step.b)}, step.c % 2 == 0);
+    log().clear();
+    const QModelIndex parent = index(target);
+    const int row = int(step.b % quint32(model().rowCount(parent) + 2)) - 1;
+    model().dropMimeData(data.get(), Qt::MoveAction, row, row < 0 ? -1 : 0, parent);
+    for (const QPersistentModelIndex &source : qAsConst(sources)) {
+        if (source.isValid())
+            model().removeRow(source.row(), source.parent());
+    }
+    model().settle(trace);
+    return "drop: " + log().linesOf({"moveNodes"}).join(", ");
+}
+
 QString tst_kxOverlayQtModel_script::reset(const Step &step)
 {
     // rare: a reset repairs what went wrong before
@@ -202,6 +239,7 @@ QString tst_kxOverlayQtModel_script::apply(const Step &step)
         &tst_kxOverlayQtModel_script::enable,    &tst_kxOverlayQtModel_script::enable,
         &tst_kxOverlayQtModel_script::edit,      &tst_kxOverlayQtModel_script::duplicate,
         &tst_kxOverlayQtModel_script::group,     &tst_kxOverlayQtModel_script::reset,
+        &tst_kxOverlayQtModel_script::drop,      &tst_kxOverlayQtModel_script::drop,
     };
     return (this->*actions[std::size_t(step.kind) % std::size(actions)])(step);
 }
