@@ -8,12 +8,13 @@ namespace {
 // Lines of the platform that say nothing about the code under test.
 bool isPlatformNoise(const QString &message)
 {
-    static const QRegularExpression noise(QStringLiteral(
-        "^(This plugin does not support (propagateSizeHints|raise|grabbing the keyboard)\\(\\)"
-        "|libpng warning: iCCP"
-        "|QStandardPaths: (XDG_RUNTIME_DIR|runtime directory)"
-        "|Could not connect to any X display"
-        "|libGL)"));
+    static const QRegularExpression noise(
+        QStringLiteral("^(This plugin does not support "
+                       "(propagateSizeHints\\(\\)|raise\\(\\)|grabbing the keyboard)"
+                       "|libpng warning: iCCP"
+                       "|QStandardPaths: (XDG_RUNTIME_DIR|runtime directory)"
+                       "|Could not connect to any X display"
+                       "|libGL)"));
     return noise.match(message).hasMatch();
 }
 
