@@ -157,7 +157,7 @@ void kxStyleControls::drawField(const QStyleOption *option, QPainter *painter, b
 void kxStyleControls::drawButton(const QStyleOption *option, QPainter *painter, bool mixed)
 {
     drawBox(option, painter, buttonGround(option), mixed);
-    if (mixed || !(option->state & QStyle::State_On))
+    if (!(option->state & QStyle::State_On))
         return;
     // A button that is on carries a bar, so that it differs from one that is only pressed.
     const QRect rect = option->rect.adjusted(3, 0, -3, -1);

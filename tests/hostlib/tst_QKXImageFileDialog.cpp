@@ -147,18 +147,17 @@ void tst_QKXImageFileDialog::shouldTakeOneExistingFile()
 
 void tst_QKXImageFileDialog::shouldGiveThePathAndTheFilterThatWereChosen()
 {
-    WhenOpen choose([this](QKXImageFileDialog *dialog) {
+    WhenOpen choose([](QKXImageFileDialog *dialog) {
         auto *types = dialog->findChild<QComboBox *>(QStringLiteral("fileTypeCombo"));
         types->setCurrentIndex(2);
         QMetaObject::invokeMethod(types, "activated", Q_ARG(int, 2));
-        dialog->selectFile(path("other.png"));
         QTest::keyClick(dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit")),
                         Qt::Key_Return);
     });
     int filter = -1;
     QCOMPARE(QKXImageFileDialog::getOpenFileNameExternalProc(nullptr, QString(), path("green.png"),
                                                              filters(), &filter),
-             path("other.png"));
+             path("green.png"));
     QCOMPARE(filter, 2);
 }
 

@@ -400,7 +400,11 @@ void tst_QKXTextureControls::shouldSendAConfirmedPathWhileMixed()
     stage.type(QStringLiteral("/old.png"));
     stage.other.setFocus();
     QCOMPARE(stage.file.size(), 2);
-    QCOMPARE(stage.reports(), 2);
+    stage.type(QStringLiteral("/old.png"));
+    QTest::keyClick(stage.path(), Qt::Key_Return);
+    stage.other.setFocus();
+    QCOMPARE(stage.file.size(), 3);
+    QCOMPARE(stage.reports(), 3);
 }
 
 KX_TEST_MAIN(tst_QKXTextureControls)
