@@ -164,11 +164,12 @@ QRPC::NodeId RecordingService::create(const char *operation, QRPC::NodeId parent
 
 RecordingService::Node *RecordingService::copyOf(const Node &source)
 {
+    static const QRegularExpression number(QStringLiteral("[0-9]+$"));
     Node *copy = addNode(m_nextId, source.kind, source.name);
     const QRPC::NodeId id = copy->id;
     *copy = source;
     copy->id = id;
-    copy->name = QString(source.name).remove(QRegularExpression("[0-9]+$")) + QString::number(id);
+    copy->name = QString(source.name).remove(number) + QString::number(id);
     copy->children.clear();
     for (const Node *child : source.children) {
         copy->children.append(copyOf(*child));
