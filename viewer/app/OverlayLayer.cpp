@@ -9,40 +9,42 @@
 
 namespace viewer {
 
-namespace {
-
-using Announcement = void (kxOverlayService::*)(const QRPC::NodeList &);
-
-// All that the picture depends on; names are not drawn, and nodesCreated() follows nodesAdded().
-const Announcement s_visibleChanges[] = {
-    &kxOverlayService::nodesAdded,
-    &kxOverlayService::nodesRemoved,
-    &kxOverlayService::overlayTypeChanged,
-    &kxOverlayService::textChanged,
-    &kxOverlayService::fontChanged,
-    &kxOverlayService::fontColorChanged,
-    &kxOverlayService::backgroundColorChanged,
-    &kxOverlayService::backgroundTransparencyChanged,
-    &kxOverlayService::imageChanged,
-    &kxOverlayService::sizeTypeChanged,
-    &kxOverlayService::sizeChanged,
-    &kxOverlayService::positionChanged,
-    &kxOverlayService::offsetChanged,
-    &kxOverlayService::enabledStateChanged,
-};
-
-} // namespace
-
 OverlayLayer::OverlayLayer(kxOverlayService *service, Draw draw, QWidget *parent)
     : QWidget(parent)
     , m_draw(std::move(draw))
 {
     setObjectName(QStringLiteral("overlayLayer"));
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    for (const Announcement change : s_visibleChanges)
-        connect(service, change, this, &OverlayLayer::redraw);
-    connect(service, &kxOverlayService::nodesMoved, this, &OverlayLayer::redraw);
-    connect(service, &kxOverlayService::modelReset, this, &OverlayLayer::redraw);
+    followTree(service);
+    followValues(service);
+}
+
+// nodesCreated() follows nodesAdded() and says nothing more about the picture.
+void OverlayLayer::followTree(const kxOverlayService *service)
+{
+    const auto redraw = qOverload<>(&OverlayLayer::update);
+    connect(service, &kxOverlayService::modelReset, this, redraw);
+    connect(service, &kxOverlayService::nodesAdded, this, redraw);
+    connect(service, &kxOverlayService::nodesRemoved, this, redraw);
+    connect(service, &kxOverlayService::nodesMoved, this, redraw);
+    connect(service, &kxOverlayService::enabledStateChanged, this, redraw);
+}
+
+// All values but the name, which is not drawn.
+void OverlayLayer::followValues(const kxOverlayService *service)
+{
+    const auto redraw = qOverload<>(&OverlayLayer::update);
+    connect(service, &kxOverlayService::overlayTypeChanged, this, redraw);
+    connect(service, &kxOverlayService::textChanged, this, redraw);
+    connect(service, &kxOverlayService::fontChanged, this, redraw);
+    connect(service, &kxOverlayService::fontColorChanged, this, redraw);
+    connect(service, &kxOverlayService::backgroundColorChanged, this, redraw);
+    connect(service, &kxOverlayService::backgroundTransparencyChanged, this, redraw);
+    connect(service, &kxOverlayService::imageChanged, this, redraw);
+    connect(service, &kxOverlayService::sizeTypeChanged, this, redraw);
+    connect(service, &kxOverlayService::sizeChanged, this, redraw);
+    connect(service, &kxOverlayService::positionChanged, this, redraw);
+    connect(service, &kxOverlayService::offsetChanged, this, redraw);
 }
 
 void OverlayLayer::paintEvent(QPaintEvent *)
@@ -52,11 +54,6 @@ void OverlayLayer::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.scale(1 / scale, 1 / scale);
     m_draw(&painter, (QSizeF(size()) * scale).toSize(), Dpi * scale);
-}
-
-void OverlayLayer::redraw()
-{
-    update();
 }
 
 } // namespace viewer

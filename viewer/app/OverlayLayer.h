@@ -31,7 +31,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void redraw();
+    void followTree(const kxOverlayService *service);
+    void followValues(const kxOverlayService *service);
 
     const Draw m_draw;
 };
