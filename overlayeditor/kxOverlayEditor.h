@@ -154,6 +154,7 @@ private Q_SLOTS:
 private:
     void createUserInterface();
     void createWindow();
+    void deselect(const QModelIndexList &rows);
     void applySizeConstraints();
     void createSizeAndPositionView();
     void registerShortcuts();

@@ -15,6 +15,7 @@
 #include "overlayeditor/kxServices.h"
 #include "overlayeditor/model/kxOverlayQtModel.h"
 
+#include <QSet>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -44,6 +45,7 @@ void kxOverlayEditor::createTreeView()
     // A reset empties the selection without a word. By pointer, because the model's slot of that
     // name hides the signal from the text form.
     connect(m_model, &QAbstractItemModel::modelReset, this, &kxOverlayEditor::selectionChanged);
+    connect(m_model, &kxOverlayQtModel::nodesAboutToGo, this, &kxOverlayEditor::deselect);
 
     m_searchBox = new QKXSearchBox(frame);
     kxConnect(m_searchBox, SIGNAL(searchChanged(const QString &)), this,
@@ -116,6 +118,27 @@ void kxOverlayEditor::nodesRemovedUpdate(const QRPC::NodeList &nodeList)
 {
     Q_UNUSED(nodeList)
     updateAll();
+}
+
+/// Deselects rows with all that lies in them, in one step: each change of the selection refreshes
+/// the panel, and the rows leave one by one.
+void kxOverlayEditor::deselect(const QModelIndexList &rows)
+{
+    const QSet<QModelIndex> leaving(rows.begin(), rows.end());
+    const QModelIndexList selected = m_treeView->selectionModel()->selectedIndexes();
+    QItemSelection remaining;
+    int count = 0;
+    for (const QModelIndex &index : selected) {
+        QModelIndex ancestor = index;
+        while (ancestor.isValid() && !leaving.contains(ancestor))
+            ancestor = ancestor.parent();
+        if (ancestor.isValid())
+            continue;
+        kxSelectionRanges::append(&remaining, index);
+        ++count;
+    }
+    if (count < selected.size())
+        m_treeView->selectionModel()->select(remaining, QItemSelectionModel::ClearAndSelect);
 }
 
 void kxOverlayEditor::selectAll()

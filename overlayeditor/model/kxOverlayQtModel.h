@@ -75,6 +75,10 @@ Q_SIGNALS:
     /// A drop was taken; the service has moved the nodes.
     void nodesDropped(const QRPC::NodeList &nodes);
 
+    /// The service has removed the nodes of these rows, and the rows go next, one by one. Whoever
+    /// keeps a selection of rows takes leave of them all at once here.
+    void nodesAboutToGo(const QModelIndexList &rows);
+
 public Q_SLOTS:
     /// Inserts the node with all ancestors that have no row yet, in one insertion. A node that has
     /// a row already is left alone.

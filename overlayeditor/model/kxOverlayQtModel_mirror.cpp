@@ -167,13 +167,17 @@ void kxOverlayQtModel::nodeRemovedUpdate(QRPC::NodeId id)
 void kxOverlayQtModel::nodesRemovedUpdate(const QRPC::NodeList &list)
 {
     QVector<QStandardItem *> items;
-    items.reserve(list.size());
+    QModelIndexList rows;
     for (const QRPC::NodeId id : list) {
-        if (QStandardItem *item = itemFromId(id))
-            items.append(item);
+        QStandardItem *item = itemFromId(id);
+        if (!item)
+            continue;
+        items.append(item);
+        if (isInTree(item))
+            rows.append(item->index());
     }
-    const QVector<QStandardItem *> ordered = inOrderOfRemoval(items);
-    for (QStandardItem *item : ordered)
+    Q_EMIT nodesAboutToGo(rows);
+    for (QStandardItem *item : inOrderOfRemoval(items))
         removeFromParent(item);
 }
 

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void shouldRemoveANodeWithItsSubtree();
     void shouldAskNothingButTheRootForARemoval();
     void shouldSkipUnknownIdsOfARemoval();
+    void shouldNameAllRowsOfARemovalBeforeTheFirstGoes();
     void shouldTakeARowOutWithoutDeletingIt();
     void shouldFollowCommandsOfTheService();
 
@@ -257,6 +258,22 @@ void tst_kxOverlayQtModel_structure::shouldSkipUnknownIdsOfARemoval()
     service().erase({2});
     Q_EMIT service().nodesRemoved({99, 0, 2, 2});
     QCOMPARE(shown(), QString("b3"));
+}
+
+void tst_kxOverlayQtModel_structure::shouldNameAllRowsOfARemovalBeforeTheFirstGoes()
+{
+    fill("a2 g3(b4) c5");
+    const QModelIndexList doomed{index(5), index(2)};
+    QString shownThen;
+    QModelIndexList named;
+    connect(&model(), &kxOverlayQtModel::nodesAboutToGo, this, [&](const QModelIndexList &rows) {
+        named += rows;
+        shownThen = shown();
+    });
+    service().deleteNodes({5, 2});
+    QCOMPARE(named, doomed);
+    QCOMPARE(shownThen, QString("a2 g3(b4) c5"));
+    QCOMPARE(shown(), QString("g3(b4)"));
 }
 
 void tst_kxOverlayQtModel_structure::shouldTakeARowOutWithoutDeletingIt()
