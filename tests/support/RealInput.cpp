@@ -8,9 +8,11 @@
 
 namespace {
 
+const auto program = QStringLiteral("xdotool");
+
 void run(const QStringList &arguments)
 {
-    const int code = QProcess::execute(QStringLiteral("xdotool"), arguments);
+    const int code = QProcess::execute(program, arguments);
     if (code != 0)
         qWarning("xdotool %s ended with %d", qPrintable(arguments.join(' ')), code);
 }
@@ -18,7 +20,7 @@ void run(const QStringList &arguments)
 QStringList moveTo(const QWidget &widget, const QPoint &place)
 {
     const QPoint global = widget.mapToGlobal(place) * widget.devicePixelRatioF();
-    return {QStringLiteral("mousemove"), QString::number(global.x()), QString::number(global.y())};
+    return {"mousemove", QString::number(global.x()), QString::number(global.y())};
 }
 
 } // namespace
@@ -29,28 +31,31 @@ void click(const QWidget &widget, const QPoint &place, const QStringList &heldKe
 {
     QStringList arguments = moveTo(widget, place);
     for (const QString &held : heldKeys)
-        arguments << QStringLiteral("keydown") << held;
-    arguments << QStringLiteral("click") << QStringLiteral("1");
+        arguments << "keydown" << held;
+    arguments << "click"
+              << "1";
     for (const QString &held : heldKeys)
-        arguments << QStringLiteral("keyup") << held;
-    run(arguments);
-}
-
-void drag(const QWidget &widget, const QPoint &from, const QPoint &to)
-{
-    QStringList arguments = moveTo(widget, from);
-    arguments << QStringLiteral("mousedown") << QStringLiteral("1");
-    // A hand does not jump: what follows the mouse sees places in between.
-    constexpr int steps = 4;
-    for (int step = 1; step <= steps; ++step)
-        arguments << moveTo(widget, from + (to - from) * step / steps);
-    arguments << QStringLiteral("mouseup") << QStringLiteral("1");
+        arguments << "keyup" << held;
     run(arguments);
 }
 
 void key(const QString &name)
 {
-    run({QStringLiteral("key"), name});
+    run({"key", name});
+}
+
+void startDrag(const QWidget &widget, const QPoint &from, const QPoint &to)
+{
+    // The X server merges moves that follow one another at once; a hand is slower.
+    const QStringList pause{"sleep", "0.05"};
+    QStringList arguments = moveTo(widget, from) + pause + QStringList{"mousedown", "1"};
+    constexpr int steps = 4;
+    for (int step = 1; step <= steps; ++step)
+        arguments +=
+            moveTo(widget, from + (to - from) * step / steps + QPoint(step % 2, 0)) + pause;
+    arguments += moveTo(widget, to) + pause + QStringList{"mouseup", "1"};
+    if (!QProcess::startDetached(program, arguments))
+        qWarning("xdotool could not be started");
 }
 
 } // namespace realInput

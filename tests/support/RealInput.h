@@ -22,4 +22,8 @@ void drag(const QWidget &widget, const QPoint &from, const QPoint &to);
 /// Presses and releases a key by its X name ("Delete", "ctrl+a").
 void key(const QString &name);
 
+/// Drags with the left button from one place of a widget to another one. The moves come while the
+/// drag runs in an event loop of its own, so that the test goes on at once and waits for the drop.
+void startDrag(const QWidget &widget, const QPoint &from, const QPoint &to);
+
 } // namespace realInput
