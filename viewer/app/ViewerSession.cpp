@@ -66,8 +66,9 @@ void ViewerSession::start()
     else
         m_window->useDefaultLayout();
     m_window->show();
-    if (!m_line.scene.isEmpty())
-        openScene(m_line.scene);
+    // Modules read the tree when it is announced, and need one that is empty too.
+    if (m_line.scene.isEmpty() || !openScene(m_line.scene))
+        overlays()->setScene(Scene());
     m_services.announceReady();
     if (!m_line.screenshot.isEmpty())
         takePictureAndQuit();

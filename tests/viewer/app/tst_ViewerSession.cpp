@@ -23,6 +23,8 @@ class tst_ViewerSession : public KxTest
 private Q_SLOTS:
     void init() override;
     void shouldLoadModulesThenTheSceneThenTellThatAllIsReady();
+    void shouldAnnounceATreeWhereThereIsNoScene_data();
+    void shouldAnnounceATreeWhereThereIsNoScene();
     void shouldDestroyTheWindowWhileServicesAreThere();
     void shouldRunWithoutItsModules();
     void shouldShowTheScene();
@@ -105,6 +107,23 @@ QString tst_ViewerSession::goodScene() const
 void tst_ViewerSession::shouldLoadModulesThenTheSceneThenTellThatAllIsReady()
 {
     ViewerSession session(line({goodScene()}), nullptr);
+    session.start();
+    QCOMPARE(qApp->property("journal").toStringList(),
+             QStringList({"initPlugin", "modelReset", "init"}));
+}
+
+void tst_ViewerSession::shouldAnnounceATreeWhereThereIsNoScene_data()
+{
+    QTest::addColumn<bool>("named");
+    QTest::newRow("none is named") << false;
+    QTest::newRow("the file is bad") << true;
+}
+
+void tst_ViewerSession::shouldAnnounceATreeWhereThereIsNoScene()
+{
+    QFETCH(bool, named);
+    const QString bad = write("bad.json", "{");
+    ViewerSession session(line(named ? QStringList{bad} : QStringList()), nullptr);
     session.start();
     QCOMPARE(qApp->property("journal").toStringList(),
              QStringList({"initPlugin", "modelReset", "init"}));
