@@ -135,7 +135,8 @@ void tst_ViewerSession::shouldDestroyTheWindowWhileServicesAreThere()
         ViewerSession session(line({}), nullptr);
         session.start();
     }
-    QCOMPARE(qApp->property("journal").toStringList(), QStringList({"initPlugin", "init", "gone"}));
+    QCOMPARE(qApp->property("journal").toStringList(),
+             QStringList({"initPlugin", "modelReset", "init", "gone"}));
 }
 
 void tst_ViewerSession::shouldRunWithoutItsModules()
