@@ -35,6 +35,7 @@ private Q_SLOTS:
     void shouldInvertTheSelection();
     void shouldInvertLargeSelectionsInFewRanges();
     void shouldIgnoreTheNodesOfARemoval();
+    void shouldRefreshThePanelInProportionToARemoval();
     void shouldShowTenThousandOpenLevels();
     void shouldEditASelectedRowOnClick();
     void shouldNotEditOnDoubleClickOrKeys();
@@ -288,6 +289,21 @@ void tst_kxOverlayEditor_tree::shouldIgnoreTheNodesOfARemoval()
                                       Q_ARG(QRPC::NodeList, QRPC::NodeList{98})));
     QCOMPARE(window()._overlay_name->text(), QString("a2"));
     QCOMPARE(shown(), QString("a2 b3"));
+}
+
+void tst_kxOverlayEditor_tree::shouldRefreshThePanelInProportionToARemoval()
+{
+    constexpr int nodes = 200;
+    QStringList names;
+    for (int i = 0; i < nodes; ++i)
+        names.append("a" + QString::number(10 + i));
+    openEditor(names.join(' '));
+    call("selectAll");
+    log().clear();
+    call("deleteOverlays");
+    QCOMPARE(model().rowCount(), 0);
+    const int asked = log().count("getName");
+    QVERIFY2(asked <= 4 * nodes, qPrintable(QString::number(asked)));
 }
 
 void tst_kxOverlayEditor_tree::shouldShowTenThousandOpenLevels()
