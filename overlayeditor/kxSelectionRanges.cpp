@@ -18,15 +18,28 @@ struct Rows
 
 using RowsByParent = QHash<QModelIndex, QVector<Rows>>;
 
-RowsByParent sortedByParent(const QItemSelection &selection)
+/// Ascending ranges without a common row: a selection may name a row more than once.
+QVector<Rows> merged(QVector<Rows> ranges)
+{
+    std::sort(ranges.begin(), ranges.end(),
+              [](const Rows &a, const Rows &b) { return a.top < b.top; });
+    QVector<Rows> result;
+    for (const Rows &next : qAsConst(ranges)) {
+        if (!result.isEmpty() && next.top <= result.constLast().bottom)
+            result.last().bottom = std::max(result.constLast().bottom, next.bottom);
+        else
+            result.append(next);
+    }
+    return result;
+}
+
+RowsByParent mergedByParent(const QItemSelection &selection)
 {
     RowsByParent rows;
     for (const QItemSelectionRange &range : selection)
         rows[range.parent()].append({range.top(), range.bottom()});
-    for (QVector<Rows> &siblings : rows) {
-        std::sort(siblings.begin(), siblings.end(),
-                  [](const Rows &a, const Rows &b) { return a.top < b.top; });
-    }
+    for (QVector<Rows> &siblings : rows)
+        siblings = merged(siblings);
     return rows;
 }
 
@@ -54,7 +67,7 @@ void kxSelectionRanges::append(QItemSelection *selection, const QModelIndex &ind
 
 QItemSelection kxSelectionRanges::subtract(const QItemSelection &all, const QItemSelection &removed)
 {
-    const RowsByParent holes = sortedByParent(removed);
+    const RowsByParent holes = mergedByParent(removed);
     QItemSelection rest;
     for (const QItemSelectionRange &range : all) {
         const QVector<Rows> siblings = holes.value(range.parent());

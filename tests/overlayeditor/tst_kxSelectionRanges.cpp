@@ -130,6 +130,8 @@ void tst_kxSelectionRanges::shouldSubtractRows_data()
     row("unsorted", "0-9", "7 2-3", "0-1 4-6 8-9");
     row("over the edges of ranges", "0-3 6-9", "2-7", "0-1 8-9");
     row("rows that are not there", "0-3", "5-9", "0-3");
+    row("rows named twice", "0-9", "4-6 5", "0-3 7-9");
+    row("ranges within one another", "5-9", "0-8 2-3", "9");
     row("hole in a later range", "0-1 4-9", "5 8", "0-1 4 6-7 9");
 }
 
