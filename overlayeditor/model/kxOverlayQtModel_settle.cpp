@@ -11,18 +11,23 @@
 #include "overlayeditor/model/kxOverlayItem.h"
 #include "overlayeditor/model/kxOverlayItemIndex.h"
 
+#include <QPersistentModelIndex>
 #include <QVector>
 
 void kxOverlayQtModel::settle(const kxDropTrace &trace)
 {
+    // Mending one place may shift or remove rows of the next.
+    const QModelIndexList rows = trace.insertedRows();
+    const QVector<QPersistentModelIndex> copies(rows.begin(), rows.end());
     // Copies show what their rows showed when the drag began.
-    const QModelIndexList copies = trace.insertedRows();
-    for (const QModelIndex &copy : copies)
-        settleSubtree(itemFromIndex(copy));
+    for (const QPersistentModelIndex &copy : copies) {
+        if (copy.isValid())
+            settleSubtree(itemFromIndex(copy));
+    }
     const QModelIndexList parents = trace.touchedParents();
-    QVector<QPersistentModelIndex> remaining(parents.begin(), parents.end());
+    const QVector<QPersistentModelIndex> remaining(parents.begin(), parents.end());
     for (int i = 0; i < remaining.size(); ++i) {
-        // Mending one parent may remove another one; the root is the index that never was valid.
+        // The root is the index that never was valid.
         const bool isRoot = !parents.at(i).isValid();
         if (isRoot || remaining.at(i).isValid())
             settleChildren(isRoot ? invisibleRootItem() : itemFromIndex(remaining.at(i)));
@@ -44,7 +49,10 @@ void kxOverlayQtModel::settleSubtree(QStandardItem *item)
 
 void kxOverlayQtModel::settleChildren(QStandardItem *parent)
 {
-    const QRPC::NodeId parentId = getNodeId(parent);
+    // The root's row carries no id before the first reset.
+    const QRPC::NodeId parentId = parent == invisibleRootItem()
+                                      ? kxService<kxOverlayService>()->getRootNode()
+                                      : getNodeId(parent);
     const int count = kxService<kxOverlayService>()->getChildCount(parentId);
     QVector<QRPC::NodeId> nodes;
     nodes.reserve(count);

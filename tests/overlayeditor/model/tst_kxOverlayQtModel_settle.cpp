@@ -22,6 +22,8 @@ private Q_SLOTS:
     void shouldDropASecondRowOfANodeThatStayed();
     void shouldMendNothingWhereNothingDiffers();
     void shouldLeaveRowsThatWereNotTouchedAlone();
+    void shouldMendACopyWhoseRowHasShifted();
+    void shouldKeepATreeThatWasNeverReset();
     void shouldTellWhichNodesWereDropped();
     void shouldForgetRowsThatAreGone();
 
@@ -183,6 +185,27 @@ void tst_kxOverlayQtModel_settle::shouldLeaveRowsThatWereNotTouchedAlone()
     QVERIFY(other.isValid());
     QVERIFY(sibling.isValid());
     QCOMPARE(item(4), group);
+}
+
+void tst_kxOverlayQtModel_settle::shouldMendACopyWhoseRowHasShifted()
+{
+    fill("a2");
+    const kxDropTrace trace(&model());
+    service().insert(1, 1, "g3() b4");
+    Q_EMIT service().nodesAdded({3, 4});
+    service().place(2, 3, 0); // mending the group takes the row in front of the next copy
+    service().node(4).name = "x4";
+    model().settle(trace);
+    KX_COMPARE_TREE(model(), service());
+}
+
+void tst_kxOverlayQtModel_settle::shouldKeepATreeThatWasNeverReset()
+{
+    const kxDropTrace trace(&model());
+    service().insert(1, 0, "a2 g3(b4)");
+    Q_EMIT service().nodesAdded({2, 3});
+    model().settle(trace);
+    QCOMPARE(shown(), QString("a2 g3(b4)"));
 }
 
 void tst_kxOverlayQtModel_settle::shouldTellWhichNodesWereDropped()
