@@ -21,6 +21,8 @@ private Q_SLOTS:
     void shouldSendNoNodeForAnInvalidIndex();
     void shouldNotSendWhileItRefreshesNames();
     void shouldNotSendWhileItWrites();
+    void shouldSendAnEditThatItsOwnRowCauses();
+    void shouldAddAndRemoveRowsWhileItWrites();
     void shouldAcceptEditsAgainAfterwards();
     void shouldAnswerWhatTheBaseAnswers();
 };
@@ -126,6 +128,34 @@ void tst_kxOverlayQtModel_edits::shouldNotSendWhileItWrites()
     model().setData(index(2), "x2", Qt::EditRole);
     QCOMPARE(log().linesOf({"setName"}), QStringList("setName [2] \"x2\""));
     QCOMPARE(shown(), QString("x2 y3"));
+}
+
+/// The write is over by the time that the row itself changes.
+void tst_kxOverlayQtModel_edits::shouldSendAnEditThatItsOwnRowCauses()
+{
+    fill("a2 b3");
+    QMetaObject::Connection connection;
+    connection = connect(&model(), &QAbstractItemModel::dataChanged, this, [&] {
+        disconnect(connection);
+        model().setData(index(3), "y3", Qt::EditRole);
+    });
+    model().setData(index(2), "x2", Qt::EditRole);
+    QCOMPARE(log().linesOf({"setName"}), (QStringList{"setName [2] \"x2\"", "setName [3] \"y3\""}));
+    KX_COMPARE_TREE(model(), service());
+}
+
+void tst_kxOverlayQtModel_edits::shouldAddAndRemoveRowsWhileItWrites()
+{
+    fill("a2 b3");
+    service().setHook([this](const QString &) {
+        service().insert(1, 0, "g4(c5)");
+        service().erase({3});
+        Q_EMIT service().nodesAdded({4});
+        Q_EMIT service().nodesRemoved({3});
+    });
+    model().setData(index(2), "x2", Qt::EditRole);
+    service().setHook({});
+    QCOMPARE(shown(), QString("g4(c5) x2"));
 }
 
 void tst_kxOverlayQtModel_edits::shouldAcceptEditsAgainAfterwards()

@@ -4,6 +4,21 @@
 #include "host/kxKernelServiceFactory.h"
 #include "tests/overlayeditor/model/ModelTest.h"
 
+namespace {
+
+/// A service whose root is another node.
+class OddRoot : public RecordingService
+{
+public:
+    OddRoot(CallLog *log, QRPC::NodeId root) : RecordingService(log), m_oddRoot(root) {}
+    QRPC::NodeId getRootNode() override { return m_oddRoot; }
+
+private:
+    QRPC::NodeId m_oddRoot;
+};
+
+} // namespace
+
 /// How the model finds items by node id, and what the id map holds.
 class tst_kxOverlayQtModel_ids : public ModelTest
 {
@@ -15,6 +30,7 @@ private Q_SLOTS:
     void shouldGiveTheInvisibleRootForTheRootNode();
     void shouldGiveNullForNoNodeWithoutReadingARow();
     void shouldFindNoNodeWhenItIsTheRoot();
+    void shouldFindTheInvisibleRootByTheIdThatItCarries();
     void shouldAskForTheRootOnceForEachLookUp();
     void shouldReadTheIdOfAnIndexAndOfAnItem();
     void shouldGiveTheParentItemOrTheInvisibleRoot();
@@ -77,15 +93,20 @@ void tst_kxOverlayQtModel_ids::shouldGiveNullForNoNodeWithoutReadingARow()
 
 void tst_kxOverlayQtModel_ids::shouldFindNoNodeWhenItIsTheRoot()
 {
-    class OddRoot : public RecordingService
-    {
-    public:
-        using RecordingService::RecordingService;
-        QRPC::NodeId getRootNode() override { return 0; }
-    };
-    OddRoot odd(&log());
+    OddRoot odd(&log(), 0);
     kxKernelServiceFactory::the()->registerService<kxOverlayService>(&odd);
     QCOMPARE(model().itemFromId(0), model().invisibleRootItem());
+    kxKernelServiceFactory::the()->registerService<kxOverlayService>(&service());
+}
+
+void tst_kxOverlayQtModel_ids::shouldFindTheInvisibleRootByTheIdThatItCarries()
+{
+    fill("a2");
+    OddRoot odd(&log(), 70);
+    kxKernelServiceFactory::the()->registerService<kxOverlayService>(&odd);
+    QCOMPARE(model().itemFromId(1), model().invisibleRootItem());
+    QCOMPARE(s_itemMap[1], model().invisibleRootItem());
+    s_itemMap.erase(1);
     kxKernelServiceFactory::the()->registerService<kxOverlayService>(&service());
 }
 
@@ -234,6 +255,7 @@ void tst_kxOverlayQtModel_ids::shouldKeepTheEntryOfARemovedNode()
     QCOMPARE(shown(), QString("b4"));
     QCOMPARE(s_itemMap[2], removed);
     QCOMPARE(model().itemFromId(2), removed);
+    QCOMPARE(model().createItem(2), removed);
     QVERIFY(!model().indexFromId(2).isValid());
     QCOMPARE(removed->rowCount(), 1);
     QCOMPARE(removed->text(), QString("g2"));
