@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: the Overlay Editor authors
 // SPDX-License-Identifier: MIT
 
+#include "tests/support/GraphicsDriver.h"
 #include "tests/support/KxTest.h"
 #include "tests/support/RealInput.h"
 #include "viewer/app/ModulePanels.h"
@@ -72,6 +73,7 @@ void tst_examples::shouldShowEveryExampleAndFollowMouseAndKeys()
     m_session = &session;
     session.start();
     QVERIFY(QTest::qWaitForWindowActive(session.window()));
+    graphicsDriver::keepLoaded();
     const QDockWidget *panel = session.window()->modulePanels()->dock("Overlay Editor");
     QVERIFY(panel);
     QTRY_VERIFY(panel->widget()->isVisible());

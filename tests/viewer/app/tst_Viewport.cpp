@@ -3,6 +3,7 @@
 
 #include "viewer/app/Viewport.h"
 
+#include "tests/support/GraphicsDriver.h"
 #include "tests/support/KxTest.h"
 #include "viewer/app/ViewArea.h"
 
@@ -58,6 +59,7 @@ void tst_Viewport::init()
     m_area->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_area.get()));
     QTRY_VERIFY(!frames.isEmpty());
+    graphicsDriver::keepLoaded();
 }
 
 void tst_Viewport::cleanup()
