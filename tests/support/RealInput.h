@@ -16,9 +16,6 @@ namespace realInput {
 /// Clicks at a place in a widget with the left button, while the named keys ("ctrl") are held.
 void click(const QWidget &widget, const QPoint &place, const QStringList &heldKeys = {});
 
-/// Drags the left button from one place in a widget to another.
-void drag(const QWidget &widget, const QPoint &from, const QPoint &to);
-
 /// Presses and releases a key by its X name ("Delete", "ctrl+a").
 void key(const QString &name);
 
