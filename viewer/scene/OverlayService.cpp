@@ -88,70 +88,67 @@ const Overlay *OverlayService::findOverlay(NodeId id) const
     return node && node->isOverlay() ? &node->overlay : nullptr;
 }
 
+/// A property of an overlay; what stands for "none" for any other id.
+template<class Value>
+Value OverlayService::read(NodeId id, Value Overlay::*member) const
+{
+    const Overlay *overlay = findOverlay(id);
+    return overlay ? overlay->*member : Value();
+}
+
 int OverlayService::getOverlayType(NodeId node)
 {
-    const Overlay *overlay = findOverlay(node);
-    return overlay ? overlay->type : 0;
+    return read(node, &Overlay::type);
 }
 
 QString OverlayService::getText(NodeId node)
 {
-    const Overlay *overlay = findOverlay(node);
-    return overlay ? overlay->text : QString();
+    return read(node, &Overlay::text);
 }
 
 QString OverlayService::getFont(NodeId node)
 {
-    const Overlay *overlay = findOverlay(node);
-    return overlay ? overlay->font : QString();
+    return read(node, &Overlay::font);
 }
 
 QColor OverlayService::getFontColor(NodeId node)
 {
-    const Overlay *overlay = findOverlay(node);
-    return overlay ? overlay->fontColor : QColor();
+    return read(node, &Overlay::fontColor);
 }
 
 QColor OverlayService::getBackgroundColor(NodeId node)
 {
-    const Overlay *overlay = findOverlay(node);
-    return overlay ? overlay->backgroundColor : QColor();
+    return read(node, &Overlay::backgroundColor);
 }
 
 QColor OverlayService::getBackgroundTransparency(NodeId node)
 {
-    const Overlay *overlay = findOverlay(node);
-    return overlay ? overlay->backgroundTransparency : QColor();
+    return read(node, &Overlay::backgroundTransparency);
 }
 
 QString OverlayService::getImage(NodeId node)
 {
-    const Overlay *overlay = findOverlay(node);
-    return overlay ? overlay->image : QString();
+    return read(node, &Overlay::image);
 }
 
 int OverlayService::getSizeType(NodeId node)
 {
-    const Overlay *overlay = findOverlay(node);
-    return overlay ? overlay->sizeType : 0;
+    return read(node, &Overlay::sizeType);
 }
 
 float OverlayService::getSize(NodeId node)
 {
-    const Overlay *overlay = findOverlay(node);
-    return overlay ? overlay->size : 0.0F;
+    return read(node, &Overlay::size);
 }
 
 QPointF OverlayService::getPosition(NodeId node)
 {
-    const Overlay *overlay = findOverlay(node);
-    return overlay ? overlay->position : QPointF();
+    return read(node, &Overlay::position);
 }
 
 QPointF OverlayService::getOffset(NodeId node)
 {
-    const Overlay *overlay = findOverlay(node);
-    return overlay ? overlay->offset : QPointF();
+    return read(node, &Overlay::offset);
 }
 
 void OverlayService::announce(std::function<void()> signal)

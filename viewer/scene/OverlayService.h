@@ -102,6 +102,8 @@ private:
     using NodeSignal = void (kxOverlayService::*)(const QRPC::NodeList &);
 
     const Overlay *findOverlay(QRPC::NodeId id) const;
+    template<class Value>
+    Value read(QRPC::NodeId id, Value Overlay::*member) const;
 
     // announcing
     void announce(std::function<void()> signal);
