@@ -32,7 +32,10 @@ QString namePattern(NodeKind kind)
     return {};
 }
 
-/// The number in a name that follows the pattern, 0 in any other name.
+constexpr int HighestCounted = 1000000000; // leaves room for the numbers of new nodes
+
+/// The number in a name that follows the pattern; 0 in any other name, and where it is too high to
+/// count on from.
 int numberIn(const QString &name, const QString &pattern)
 {
     const int before = pattern.indexOf(QLatin1String("%1"));
@@ -41,7 +44,8 @@ int numberIn(const QString &name, const QString &pattern)
     if (before < 0 || digits < 1 || !name.startsWith(pattern.leftRef(before))
         || !name.endsWith(pattern.rightRef(after)))
         return 0;
-    return name.midRef(before, digits).toInt();
+    const int number = name.midRef(before, digits).toInt();
+    return number <= HighestCounted ? number : 0;
 }
 
 QString nameOfCopy(const QString &name)

@@ -163,7 +163,8 @@ void tst_OverlayService_nodes::shouldCountNamesByKind()
 void tst_OverlayService_nodes::shouldCountOnFromTheNamesOfAnOpenedScene()
 {
     Scene opened;
-    const QStringList names{"Text 12", "Text 3", "Text x", "Text ", "Text 99 b", "My Text 40"};
+    const QStringList names{"Text 12",   "Text 3",     "Text x",         "Text ",
+                            "Text 99 b", "My Text 40", "Text 2147483646"};
     for (const QString &name : names) {
         viewer::Node node;
         node.kind = NodeKind::Overlay;
