@@ -81,6 +81,7 @@ bool ViewerSession::openScene(const QString &file)
         report(Severity::Error, reading.error);
         return false;
     }
+    m_images.forgetAll();
     overlays()->setScene(std::move(*reading.scene));
     m_window->setScenePath(file);
     m_window->statusBar()->showMessage(tr("Opened %1").arg(QDir::toNativeSeparators(file)),

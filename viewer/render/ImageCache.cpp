@@ -65,4 +65,9 @@ void ImageCache::forget(const QString &path)
     m_entries.remove(path);
 }
 
+void ImageCache::forgetAll()
+{
+    m_entries.clear();
+}
+
 } // namespace viewer

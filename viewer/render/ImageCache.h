@@ -25,6 +25,9 @@ public:
     /// Makes the next call read the file anew.
     void forget(const QString &path);
 
+    /// Makes every file be read anew; for another scene, which need not use the same ones.
+    void forgetAll();
+
     /// How often a file was read.
     int readCount() const { return m_readCount; }
 

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void shouldShowTheScene();
     void shouldDrawTheSamePixelsAsAnExport();
     void shouldReadAnImageAnewWhenItsPathIsSet();
+    void shouldReadImagesAnewWithEachScene();
     void shouldLeaveTheOpenSceneWhenAFileIsBad_data();
     void shouldLeaveTheOpenSceneWhenAFileIsBad();
     void shouldWarnOfMissingImages();
@@ -73,6 +74,12 @@ QImage pictureOf(const ViewerSession &session)
     image.fill(Qt::transparent);
     layer->render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
     return image;
+}
+
+QColor middleOf(const ViewerSession &session)
+{
+    const QImage picture = pictureOf(session);
+    return picture.pixelColor(picture.rect().center());
 }
 
 } // namespace
@@ -186,17 +193,29 @@ void tst_ViewerSession::shouldReadAnImageAnewWhenItsPathIsSet()
     QVERIFY(file.save(path));
     ViewerSession session(line({write("image.json", scene(imageOverlay("colour.png")))}), nullptr);
     session.start();
-    const auto middle = [&session] {
-        const QImage picture = pictureOf(session);
-        return picture.pixelColor(picture.rect().center());
-    };
-    QCOMPARE(middle(), QColor(Qt::red));
+    QCOMPARE(middleOf(session), QColor(Qt::red));
     file.fill(Qt::blue);
     QVERIFY(file.save(path));
     OverlayService *overlays = session.overlays();
     const QRPC::NodeId node = overlays->getChild(overlays->getRootNode(), 0);
     overlays->setImage({node}, overlays->getImage(node));
-    QCOMPARE(middle(), QColor(Qt::blue));
+    QCOMPARE(middleOf(session), QColor(Qt::blue));
+}
+
+void tst_ViewerSession::shouldReadImagesAnewWithEachScene()
+{
+    const QString path = m_folder->filePath("colour.png");
+    QImage file(8, 8, QImage::Format_RGB32);
+    file.fill(Qt::red);
+    QVERIFY(file.save(path));
+    const QString sceneFile = write("image.json", scene(imageOverlay("colour.png")));
+    ViewerSession session(line({sceneFile}), nullptr);
+    session.start();
+    QCOMPARE(middleOf(session), QColor(Qt::red));
+    file.fill(Qt::blue);
+    QVERIFY(file.save(path));
+    QVERIFY(session.openScene(sceneFile));
+    QCOMPARE(middleOf(session), QColor(Qt::blue));
 }
 
 void tst_ViewerSession::shouldLeaveTheOpenSceneWhenAFileIsBad_data()

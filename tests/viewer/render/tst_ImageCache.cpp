@@ -15,6 +15,7 @@ class tst_ImageCache : public KxTest
 private Q_SLOTS:
     void shouldReadEachFileOnce();
     void shouldReadAForgottenFileAnew();
+    void shouldReadEverythingAnewAfterForgettingAll();
     void shouldRememberThatAFileIsMissing();
     void shouldScaleOnceForEachSize();
     void shouldReadDrawingsLarge();
@@ -51,6 +52,19 @@ void tst_ImageCache::shouldReadAForgottenFileAnew()
     cache.forget(path);
     QCOMPARE(cache.scaledImage(path, {2, 1}).pixelColor(0, 0), QColor(Qt::blue));
     QCOMPARE(cache.readCount(), 2);
+}
+
+void tst_ImageCache::shouldReadEverythingAnewAfterForgettingAll()
+{
+    ImageCache cache;
+    const QString first = picture("first.png", Qt::red, {8, 4});
+    const QString second = picture("second.png", Qt::red, {8, 4});
+    cache.image(first);
+    cache.image(second);
+    cache.forgetAll();
+    cache.image(first);
+    cache.image(second);
+    QCOMPARE(cache.readCount(), 4);
 }
 
 void tst_ImageCache::shouldRememberThatAFileIsMissing()
