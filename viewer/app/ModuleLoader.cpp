@@ -26,6 +26,8 @@ QString ModuleLoader::load(const QString &file)
         return tr("The module \"%1\" is missing: there is no such file.").arg(shown);
     // Local binding is the default; without an owner the library is never unloaded.
     QLibrary library(path);
+    // A function that this host lacks is found now, and not by a crash when it is called.
+    library.setLoadHints(QLibrary::ResolveAllSymbolsHint);
     if (!library.load())
         return tr("The module \"%1\" cannot be loaded: %2").arg(shown, library.errorString());
     const auto entry = library.resolve("initPlugin");
@@ -36,6 +38,8 @@ QString ModuleLoader::load(const QString &file)
     } catch (const std::exception &problem) {
         return tr("The module \"%1\" failed to start: %2")
             .arg(shown, QString::fromLocal8Bit(problem.what()));
+    } catch (...) {
+        return tr("The module \"%1\" failed to start.").arg(shown);
     }
     return QString();
 }

@@ -20,6 +20,8 @@ private Q_SLOTS:
     void shouldCallTheEntry();
     void shouldFindAFileBesideTheWorkingFolder();
     void shouldSurviveAModuleThatThrows();
+    void shouldSurviveAModuleThatThrowsSomethingElse();
+    void shouldRefuseAModuleThatMissesAFunction();
     void shouldLookForTheEditorBesideTheExecutable();
 
 private:
@@ -92,6 +94,20 @@ void tst_ModuleLoader::shouldSurviveAModuleThatThrows()
     const QString file = QStringLiteral(PLUGIN_THROWING);
     const QString fault = ModuleLoader::load(file);
     QVERIFY2(fault.contains(file) && fault.contains("no room for me"), qPrintable(fault));
+}
+
+void tst_ModuleLoader::shouldSurviveAModuleThatThrowsSomethingElse()
+{
+    const QString file = QStringLiteral(PLUGIN_THROWING_A_NUMBER);
+    const QString fault = ModuleLoader::load(file);
+    QVERIFY2(fault.contains(file) && fault.contains("failed to start"), qPrintable(fault));
+}
+
+void tst_ModuleLoader::shouldRefuseAModuleThatMissesAFunction()
+{
+    const QString file = QStringLiteral(PLUGIN_UNRESOLVED);
+    const QString fault = ModuleLoader::load(file);
+    QVERIFY2(fault.contains(file) && fault.contains("functionOfAnotherHost"), qPrintable(fault));
 }
 
 void tst_ModuleLoader::shouldLookForTheEditorBesideTheExecutable()
