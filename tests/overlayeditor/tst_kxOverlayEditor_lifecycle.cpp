@@ -18,7 +18,6 @@ class tst_kxOverlayEditor_lifecycle : public EditorTest
 
 private Q_SLOTS:
     void shouldAskItsHostInOrder();
-    void shouldRefreshThePanelLast();
     void shouldRegisterItsWindow();
     void shouldNameItsWindowBeforeTheForm();
     void shouldRegisterTenShortcutsInOrder();
@@ -33,6 +32,7 @@ private Q_SLOTS:
     void shouldRaiseItsWindowWhenItIsShown();
     void shouldOnlyTellWhenShownThroughItsOwnType();
     void shouldLeaveItsWindowWhenItEnds();
+    void shouldOutliveItsWindow();
     void shouldLeaveNothingBehindWhenConstructionFails_data();
     void shouldLeaveNothingBehindWhenConstructionFails();
     void shouldEnableItsInputs();
@@ -56,20 +56,6 @@ void tst_kxOverlayEditor_lifecycle::shouldAskItsHostInOrder()
                                  "mainWindow.registerModule", "platform.getIconWidth",
                                  "platform.getIconHeight", "platform.getScaleFactorX",
                                  "platform.getScaleFactorY", "platform.getScaleFactorX"}));
-}
-
-void tst_kxOverlayEditor_lifecycle::shouldRefreshThePanelLast()
-{
-    openEditor("a2");
-    QStringList lines;
-    {
-        kxOverlayEditor second;
-        lines = log().take();
-    }
-    const int last = lines.lastIndexOf("platform.getScaleFactorX");
-    for (int i = 0; i < last; ++i)
-        QVERIFY2(lines.at(i).contains('.'), qPrintable(lines.at(i)));
-    QVERIFY(!window()._overlay_name->isEnabled());
 }
 
 void tst_kxOverlayEditor_lifecycle::shouldRegisterItsWindow()
@@ -321,6 +307,23 @@ void tst_kxOverlayEditor_lifecycle::shouldLeaveItsWindowWhenItEnds()
     panel->show();
 }
 
+/// A host that closes takes its main window down before its services.
+void tst_kxOverlayEditor_lifecycle::shouldOutliveItsWindow()
+{
+    openEditor("g2(a3) b4");
+    select({3, 4});
+    delete &window();
+    service().setName({3}, "x3");
+    service().setOffsetX({3, 4}, 5.0F);
+    service().createOverlay(2);
+    service().deleteNodes({3});
+    Q_EMIT service().modelReset();
+    host().announceInit();
+    QCOMPARE(log().count("getOffset"), 0);
+    QCOMPARE(service().receivers(SIGNAL(nodesCreated(QRPC::NodeList))), 0);
+    QCOMPARE(service().receivers(SIGNAL(nodesAdded(QRPC::NodeList))), 1);
+}
+
 void tst_kxOverlayEditor_lifecycle::shouldLeaveNothingBehindWhenConstructionFails_data()
 {
     QTest::addColumn<QString>("call");
@@ -336,6 +339,7 @@ void tst_kxOverlayEditor_lifecycle::shouldLeaveNothingBehindWhenConstructionFail
     QFETCH(QString, call);
     host().throwAt(call);
     QVERIFY_EXCEPTION_THROWN(openEditor("a2"), std::runtime_error);
+    QCOMPARE(kxOverlayEditor::_the, nullptr);
     QCOMPARE(service().receivers(SIGNAL(modelReset())), 0);
     QCOMPARE(service().receivers(SIGNAL(nameChanged(QRPC::NodeList))), 0);
     for (const QObject *child : host().mainWindow().children())

@@ -150,6 +150,8 @@ int HostFixture::initReceivers() const
 void HostFixture::note(const QString &call)
 {
     m_log.add(call);
+    if (onCall)
+        onCall(call);
     if (call == m_throwingCall)
         throw std::runtime_error(call.toStdString());
 }

@@ -15,6 +15,7 @@
 #include <QPointer>
 #include <QSize>
 
+#include <functional>
 #include <memory>
 
 /// A whole host for a test: every service that a module may ask for, registered while it lives.
@@ -63,6 +64,9 @@ public:
     QSize iconSize = QSize(18, 16);
     QString imageFilter = QStringLiteral("Images (*.png)");
     /// @}
+
+    /// Is told the name of each call before it is answered; empty for none.
+    std::function<void(const QString &)> onCall;
 
     /// Makes one named call ("platform.getScaleFactorX") throw std::runtime_error from now on; an
     /// empty name ends that.
