@@ -13,7 +13,9 @@ private Q_SLOTS:
     void init() override;
     void shouldAskOncePerNodeForAReset_data();
     void shouldAskOncePerNodeForAReset();
-    void shouldAskOncePerNodeForOneList();
+    void shouldAskTheSameForEachNodeOfAList_data();
+    void shouldAskTheSameForEachNodeOfAList();
+    void shouldAskTheSameForEachEnabledNode();
     void shouldAskOnlyForTheRootToRemoveAll();
     void shouldAskThreeTimesForTheRootForEachMove();
     void shouldAskForEachNameOnce();
@@ -44,37 +46,74 @@ void tst_kxOverlayQtModel_costs::fillFlat(int nodes, const QString &wrapper)
 
 void tst_kxOverlayQtModel_costs::shouldAskOncePerNodeForAReset_data()
 {
-    QTest::addColumn<int>("nodes");
-    QTest::newRow("100") << 100;
-    QTest::newRow("1000") << 1000;
+    QTest::addColumn<int>("tops");
+    QTest::addColumn<QString>("top");
+    QTest::addColumn<int>("groups");
+    QTest::addColumn<int>("overlays");
+    QTest::newRow("flat, 100") << 100 << "a" << 0 << 1;
+    QTest::newRow("flat, 1000") << 1000 << "a" << 0 << 1;
+    const QString twenty = QStringList(QVector<QString>(20, "a").toList()).join(' ');
+    QTest::newRow("in groups of 20") << 50 << "g(" + twenty + ")" << 1 << 20;
+    const QString deep = QString("g(").repeated(100) + QString(")").repeated(100);
+    QTest::newRow("100 levels deep") << 10 << deep << 100 << 0;
 }
 
 void tst_kxOverlayQtModel_costs::shouldAskOncePerNodeForAReset()
 {
-    QFETCH(int, nodes);
-    fillFlat(nodes);
-    log().clear();
+    QFETCH(int, tops);
+    QFETCH(QString, top);
+    QFETCH(int, groups);
+    QFETCH(int, overlays);
+    fill(QStringList(QVector<QString>(tops, top).toList()).join(' '));
     Q_EMIT service().modelReset();
+    const int nodes = tops * (groups + overlays);
     QCOMPARE(count("getRootNode"), nodes + 1);
     // the root's children once more after each child, those of every other node once
-    QCOMPARE(count("getChildCount"), nodes + 1 + nodes);
+    QCOMPARE(count("getChildCount"), tops + 1 + nodes);
     QCOMPARE(count("getChild"), nodes);
     QCOMPARE(count("getName"), nodes);
     QCOMPARE(count("isEnabled"), nodes);
     QCOMPARE(count("isActive"), nodes);
     QCOMPARE(count("isOverlay"), 2 * nodes);
-    QCOMPARE(log().total(), 9 * nodes + 2);
+    QCOMPARE(count("isSwitch"), tops * groups);
+    QCOMPARE(log().total(), 8 * nodes + tops + 2 + tops * groups);
 }
 
-void tst_kxOverlayQtModel_costs::shouldAskOncePerNodeForOneList()
+void tst_kxOverlayQtModel_costs::shouldAskTheSameForEachNodeOfAList_data()
+{
+    QTest::addColumn<int>("present");
+    QTest::addColumn<int>("added");
+    QTest::newRow("2 to 500") << 500 << 2;
+    QTest::newRow("500 to 2") << 2 << 500;
+    QTest::newRow("500 to none") << 0 << 500;
+}
+
+void tst_kxOverlayQtModel_costs::shouldAskTheSameForEachNodeOfAList()
+{
+    QFETCH(int, present);
+    QFETCH(int, added);
+    fillFlat(present);
+    const QRPC::NodeList tops =
+        service().insert(1, -1, QStringList(QVector<QString>(added, "b").toList()).join(' '));
+    log().clear();
+    Q_EMIT service().nodesAdded(tops);
+    QCOMPARE(model().rowCount(), present + added);
+    QCOMPARE(log().total(), 10 * added);
+    QCOMPARE(count("getChildIndex"), added);
+}
+
+void tst_kxOverlayQtModel_costs::shouldAskTheSameForEachEnabledNode()
 {
     constexpr int nodes = 500;
     fillFlat(nodes);
-    service().insert(1, -1, "b8 c9");
+    QRPC::NodeList all = service().allIds();
     log().clear();
-    Q_EMIT service().nodesAdded({8, 9});
-    QCOMPARE(log().total(), 2 * 10);
-    QCOMPARE(count("getChildIndex"), 2);
+    service().setEnabled(all, false);
+    KX_COMPARE_TREE(model(), service());
+    QCOMPARE(count("isEnabled"), nodes);
+    // that of the parent, then its own
+    QCOMPARE(count("isActive"), 2 * nodes);
+    QCOMPARE(log().total(), 6 * nodes + 1);
 }
 
 void tst_kxOverlayQtModel_costs::shouldAskOnlyForTheRootToRemoveAll()
