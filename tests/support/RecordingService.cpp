@@ -80,10 +80,12 @@ void RecordingService::erase(const QRPC::NodeList &nodes)
 
 void RecordingService::release(Node *node)
 {
-    const QVector<Node *> children = node->children;
-    for (Node *child : children)
-        release(child);
-    m_nodes.erase(node->id);
+    QVector<Node *> doomed{node};
+    while (!doomed.isEmpty()) {
+        const Node *next = doomed.takeLast();
+        doomed += next->children;
+        m_nodes.erase(next->id);
+    }
 }
 
 void RecordingService::place(QRPC::NodeId node, QRPC::NodeId parent, int row)
@@ -124,7 +126,7 @@ QRPC::NodeList RecordingService::allIds() const
     return ids;
 }
 
-bool RecordingService::isActiveNode(const Node &node) const
+bool RecordingService::isActiveNode(const Node &node)
 {
     const Node *at = &node;
     while (at && at->enabled)

@@ -88,7 +88,7 @@ public:
     /// All ids but the root's, parents before children.
     QRPC::NodeList allIds() const;
 
-    bool isActiveNode(const Node &node) const;
+    static bool isActiveNode(const Node &node);
 
     /// Commands and writes are logged but change nothing when this is off.
     void setApplies(bool applies) { m_applies = applies; }

@@ -8,6 +8,7 @@
 
 #include <QBrush>
 #include <QStandardItemModel>
+#include <QVector>
 
 #include <algorithm>
 
@@ -26,21 +27,6 @@ QString row(const QString &name, QRPC::NodeId id, bool enabled, bool active)
     else if (!active)
         line += QLatin1Char('~');
     return line;
-}
-
-void addNode(const RecordingService &service, const RecordingService::Node &node, QString *line)
-{
-    if (node.id != RecordingService::rootId)
-        *line += row(node.name, node.id, node.enabled, service.isActiveNode(node));
-    if (node.kind == notation::Kind::Overlay)
-        return;
-    *line += QLatin1Char('(');
-    for (const RecordingService::Node *child : node.children) {
-        if (!line->endsWith(QLatin1Char('(')))
-            *line += QLatin1Char(' ');
-        addNode(service, *child, line);
-    }
-    *line += QLatin1Char(')');
 }
 
 /// What is wrong with a row whatever the service says.
@@ -62,43 +48,89 @@ QString faults(const QStandardItem *item)
     return found;
 }
 
-void addItem(const QStandardItem *item, bool isRoot, QString *line)
+QString rowOf(const QStandardItem *item)
 {
-    if (!item) {
-        *line += QStringLiteral("!null");
-        return;
+    if (!item)
+        return QStringLiteral("!null");
+    return row(item->text(), item->data(idRole).toUInt(),
+               item->data(Qt::CheckStateRole).toInt() == Qt::Checked,
+               item->data(activeRole).toBool())
+           + faults(item);
+}
+
+QString rowOf(const RecordingService::Node *node)
+{
+    return row(node->name, node->id, node->enabled, RecordingService::isActiveNode(*node));
+}
+
+bool holdsRows(const QStandardItem *item)
+{
+    return item && (item->isDropEnabled() || item->hasChildren());
+}
+
+bool holdsRows(const RecordingService::Node *node)
+{
+    return node->kind != notation::Kind::Overlay;
+}
+
+int countOf(const QStandardItem *item)
+{
+    return item->rowCount();
+}
+
+int countOf(const RecordingService::Node *node)
+{
+    return node->children.size();
+}
+
+const QStandardItem *childOf(const QStandardItem *item, int at)
+{
+    return item->child(at);
+}
+
+const RecordingService::Node *childOf(const RecordingService::Node *node, int at)
+{
+    return node->children.at(at);
+}
+
+/// A walk without recursion: trees of 10,000 levels are compared, under sanitizers too.
+template<class Node>
+QString dump(const Node *root)
+{
+    QString line;
+    QVector<QPair<const Node *, int>> open{{root, 0}};
+    while (!open.isEmpty()) {
+        const auto [node, next] = open.last();
+        if (next == countOf(node)) {
+            open.removeLast();
+            line += QLatin1Char(')');
+            continue;
+        }
+        ++open.last().second;
+        if (next > 0)
+            line += QLatin1Char(' ');
+        const Node *child = childOf(node, next);
+        line += rowOf(child);
+        if (holdsRows(child)) {
+            line += QLatin1Char('(');
+            open.append({child, 0});
+        }
     }
-    if (!isRoot) {
-        *line += row(item->text(), item->data(idRole).toUInt(),
-                     item->data(Qt::CheckStateRole).toInt() == Qt::Checked,
-                     item->data(activeRole).toBool());
-        *line += faults(item);
-        if (!item->isDropEnabled() && !item->hasChildren())
-            return;
-    }
-    *line += QLatin1Char('(');
-    for (int at = 0; at < item->rowCount(); ++at) {
-        if (!line->endsWith(QLatin1Char('(')))
-            *line += QLatin1Char(' ');
-        addItem(item->child(at), false, line);
-    }
-    *line += QLatin1Char(')');
+    line.chop(1);
+    return line;
 }
 
 } // namespace
 
 QString dumpTree(const RecordingService &service)
 {
-    QString line;
-    addNode(service, service.node(RecordingService::rootId), &line);
-    return line.mid(1, line.size() - 2);
+    return dump(
+        static_cast<const RecordingService::Node *>(&service.node(RecordingService::rootId)));
 }
 
 QString dumpTree(const QStandardItemModel &model)
 {
-    QString line;
-    addItem(model.invisibleRootItem(), true, &line);
-    return line.mid(1, line.size() - 2);
+    return dump(static_cast<const QStandardItem *>(model.invisibleRootItem()));
 }
 
 QString treeDifference(const QStandardItemModel &model, const RecordingService &service)
