@@ -5,6 +5,7 @@
 
 #include "host/kxIconManager.h"
 #include "viewer/app/ModulePanels.h"
+#include "viewer/app/Scaled.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -13,6 +14,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
 
@@ -76,6 +78,8 @@ void MainWindow::notify(Severity severity, const QString &text)
 void MainWindow::restoreLayout(const QSettings &settings)
 {
     useDefaultLayout();
+    const QSize usual(scaled(DefaultSize.width(), this), scaled(DefaultSize.height(), this));
+    resize(screen() ? usual.boundedTo(screen()->availableSize()) : usual);
     restoreGeometry(settings.value(geometryKey()).toByteArray());
     m_wantsDefaultSizes = !restoreState(settings.value(stateKey()).toByteArray(), LayoutVersion);
 }

@@ -36,10 +36,10 @@ public:
     void notify(Severity severity, const QString &text);
 
     /// Takes the place, size and panel layout that an earlier run left in `settings`, or the default
-    /// ones. To be called once all modules are loaded, before the window is shown.
+    /// ones, as large as the display's density and room allow. To be called once all modules are loaded, before the window is shown.
     void restoreLayout(const QSettings &settings);
 
-    /// Arranges the window as if nothing was remembered.
+    /// Arranges the window as if nothing was remembered, in the same size on every display.
     void useDefaultLayout();
 
     /// Writes what restoreLayout() reads.

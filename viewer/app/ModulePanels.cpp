@@ -3,6 +3,8 @@
 
 #include "viewer/app/ModulePanels.h"
 
+#include "viewer/app/Scaled.h"
+
 #include <QCoreApplication>
 #include <QDockWidget>
 #include <QMainWindow>
@@ -68,7 +70,7 @@ void ModulePanels::applyDefaultSizes()
     const QList<QDockWidget *> docks =
         m_window->findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly);
     for (QDockWidget *panel : docks)
-        m_window->resizeDocks({panel}, {UsualWidth}, Qt::Horizontal);
+        m_window->resizeDocks({panel}, {scaled(UsualWidth, m_window)}, Qt::Horizontal);
 }
 
 QMenu *ModulePanels::categoryMenu(const QString &category)

@@ -4,6 +4,7 @@
 #include "viewer/app/NoticeArea.h"
 
 #include "host/kxIconManager.h"
+#include "viewer/app/Scaled.h"
 
 #include <QLabel>
 #include <QPainter>
@@ -14,6 +15,7 @@ namespace viewer {
 namespace {
 
 constexpr int MostNotices = 4;
+// Lengths on a display of the usual density.
 constexpr int Margin = 12;
 constexpr int Spacing = 6;
 constexpr int WidestNotice = 760;
@@ -22,11 +24,6 @@ constexpr int MarkSize = 18;
 constexpr int MarkPadding = 9;
 constexpr int ButtonSize = 18;
 constexpr int TextLeft = MarkSize + 2 * Margin;
-
-int textWidth(int noticeWidth)
-{
-    return noticeWidth - TextLeft - ButtonSize - 2 * MarkPadding;
-}
 
 struct Look
 {
@@ -85,17 +82,26 @@ QString Notice::text() const
     return m_label->text();
 }
 
+int Notice::textWidth(int width) const
+{
+    return width - scaled(TextLeft + ButtonSize + 2 * MarkPadding, this);
+}
+
 // Reckoned here and not by a layout of Qt, which reserves the height of the text at its narrowest.
 int Notice::heightForWidth(int width) const
 {
-    return qMax(m_label->heightForWidth(textWidth(width)) + 2 * Padding,
-                MarkSize + 2 * MarkPadding);
+    return qMax(m_label->heightForWidth(textWidth(width)) + 2 * scaled(Padding, this),
+                scaled(MarkSize + 2 * MarkPadding, this));
 }
 
 void Notice::resizeEvent(QResizeEvent *)
 {
-    m_label->setGeometry(TextLeft, Padding, textWidth(width()), height() - 2 * Padding);
-    m_button->setGeometry(width() - ButtonSize - MarkPadding, MarkPadding, ButtonSize, ButtonSize);
+    const int padding = scaled(Padding, this);
+    m_label->setGeometry(scaled(TextLeft, this), padding, textWidth(width()),
+                         height() - 2 * padding);
+    const int side = scaled(ButtonSize, this);
+    const int edge = scaled(MarkPadding, this);
+    m_button->setGeometry(width() - side - edge, edge, side, side);
 }
 
 void Notice::paintEvent(QPaintEvent *)
@@ -109,13 +115,14 @@ void Notice::paintEvent(QPaintEvent *)
     painter.setBrush(ground);
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
 
-    const QRectF mark(Margin, MarkPadding, MarkSize, MarkSize);
+    const int side = scaled(MarkSize, this);
+    const QRectF mark(scaled(Margin, this), scaled(MarkPadding, this), side, side);
     painter.setPen(Qt::NoPen);
     painter.setBrush(look.color);
     painter.drawEllipse(mark);
     QFont bold = font();
     bold.setBold(true);
-    bold.setPixelSize(MarkSize * 2 / 3);
+    bold.setPixelSize(side * 2 / 3);
     painter.setFont(bold);
     painter.setPen(palette().color(QPalette::Window).darker(160));
     painter.drawText(mark, Qt::AlignCenter, QLatin1String(look.mark));
@@ -157,14 +164,16 @@ QStringList NoticeArea::texts() const
 
 void NoticeArea::place()
 {
-    const int width = qMin(WidestNotice, parentWidget()->width() - 2 * Margin);
+    const int margin = scaled(Margin, this);
+    const int spacing = scaled(Spacing, this);
+    const int width = qMin(scaled(WidestNotice, this), parentWidget()->width() - 2 * margin);
     int bottom = 0;
     for (Notice *notice : qAsConst(m_notices)) {
         const int height = notice->heightForWidth(width);
         notice->setGeometry(0, bottom, width, height);
-        bottom += height + Spacing;
+        bottom += height + spacing;
     }
-    setGeometry((parentWidget()->width() - width) / 2, Margin, width, qMax(0, bottom - Spacing));
+    setGeometry((parentWidget()->width() - width) / 2, margin, width, qMax(0, bottom - spacing));
 }
 
 void NoticeArea::dismiss(Notice *notice)

@@ -37,6 +37,8 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    int textWidth(int width) const;
+
     const Severity m_severity;
     QLabel *m_label;
     QToolButton *m_button;

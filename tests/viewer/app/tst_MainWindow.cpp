@@ -6,12 +6,14 @@
 #include "tests/support/KxTest.h"
 #include "viewer/app/MainWindowService.h"
 #include "viewer/app/ModulePanels.h"
+#include "viewer/app/Scaled.h"
 #include "viewer/app/Viewport.h"
 
 #include <QDockWidget>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QStatusBar>
@@ -80,6 +82,7 @@ private Q_SLOTS:
     void shouldKeepTheFirstOfTwoModulesOfOneName();
     void shouldSurviveARegistrationWithoutWindow();
     void shouldGiveThePanelItsUsualWidth();
+    void shouldFitTheScreenWhereNothingIsRemembered();
     void shouldRememberTheLayout();
     void shouldUseTheDefaultLayoutWhereTheRememberedOneIsBroken();
     void shouldKeepTheFullScreenSwitchInStepWithTheWindow();
@@ -88,6 +91,7 @@ private Q_SLOTS:
     void shouldShowNoticesUntilTheyAreDismissed();
     void shouldShowAllLinesOfANotice();
     void shouldKeepTheNewestNotices();
+    void shouldHaveRoomForTheSignsOfANotice();
 
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -175,10 +179,21 @@ void tst_MainWindow::shouldGiveThePanelItsUsualWidth()
 {
     Window window;
     window.add("Editor");
-    window.restoreLayout(QSettings(m_folder->filePath("none.ini"), QSettings::IniFormat));
+    window.useDefaultLayout();
     QCOMPARE(window.size(), QSize(1600, 1000));
+    window.resize(scaled(1600, &window), scaled(1000, &window));
     window.setVisible(true);
-    QTRY_COMPARE(window.modulePanels()->dock("Editor")->width(), 700);
+    QTRY_COMPARE(window.modulePanels()->dock("Editor")->width(), scaled(700, &window));
+}
+
+void tst_MainWindow::shouldFitTheScreenWhereNothingIsRemembered()
+{
+    Window window;
+    const QSize room = window.screen()->availableSize();
+    QVERIFY(room.width() < 1600);
+    window.restoreLayout(QSettings(m_folder->filePath("none.ini"), QSettings::IniFormat));
+    QVERIFY2(window.width() <= room.width(), qPrintable(QString::number(window.width())));
+    QVERIFY2(window.height() <= room.height(), qPrintable(QString::number(window.height())));
 }
 
 void tst_MainWindow::shouldRememberTheLayout()
@@ -190,7 +205,7 @@ void tst_MainWindow::shouldRememberTheLayout()
         window.add("Other", "Scene", "Other");
         window.restoreLayout(settings);
         window.setVisible(true);
-        QTRY_COMPARE(window.modulePanels()->dock("Editor")->width(), 700);
+        QTRY_VERIFY(window.modulePanels()->dock("Editor")->isVisible());
         window.resize(900, 555);
         window.addDockWidget(Qt::LeftDockWidgetArea, window.modulePanels()->dock("Editor"));
         window.resizeDocks({window.modulePanels()->dock("Editor")}, {222}, Qt::Horizontal);
@@ -218,8 +233,9 @@ void tst_MainWindow::shouldUseTheDefaultLayoutWhereTheRememberedOneIsBroken()
     Window window;
     window.add("Editor");
     window.restoreLayout(settings);
+    window.resize(scaled(1600, &window), scaled(1000, &window));
     window.setVisible(true);
-    QTRY_COMPARE(window.modulePanels()->dock("Editor")->width(), 700);
+    QTRY_COMPARE(window.modulePanels()->dock("Editor")->width(), scaled(700, &window));
 }
 
 void tst_MainWindow::shouldKeepTheFullScreenSwitchInStepWithTheWindow()
@@ -294,7 +310,7 @@ void tst_MainWindow::shouldShowAllLinesOfANotice()
     const Notice *notice = window.viewArea()->notices()->findChild<Notice *>();
     const auto *label = notice->findChild<QLabel *>();
     QTRY_VERIFY(label->height() >= label->heightForWidth(label->width()));
-    QVERIFY(notice->height() < label->heightForWidth(label->width()) + 30);
+    QVERIFY(notice->height() < label->heightForWidth(label->width()) + scaled(30, &window));
     // In a narrow window the same words need more lines.
     window.resize(500, 600);
     QTRY_VERIFY(label->height() >= label->heightForWidth(label->width()));
@@ -306,6 +322,19 @@ void tst_MainWindow::shouldKeepTheNewestNotices()
     for (int i = 1; i <= 6; ++i)
         window.notify(Severity::Info, QString::number(i));
     QCOMPARE(window.notices(), QStringList({"6", "5", "4", "3"}));
+}
+
+void tst_MainWindow::shouldHaveRoomForTheSignsOfANotice()
+{
+    Window window;
+    window.setVisible(true);
+    window.notify(Severity::Info, "text");
+    const Notice *notice = window.viewArea()->notices()->findChild<Notice *>();
+    const auto *button = notice->findChild<QToolButton *>("dismiss");
+    QTRY_VERIFY(button->width() >= button->iconSize().width());
+    QVERIFY(button->height() >= button->iconSize().height());
+    QVERIFY(notice->rect().contains(button->geometry()));
+    QVERIFY(notice->findChild<QLabel *>()->geometry().right() < button->x());
 }
 
 KX_TEST_MAIN(tst_MainWindow)
