@@ -224,6 +224,7 @@ Q_SIGNALS:
     /// because modules stop at an inactive parent. A change at the root names the root's children.
     void enabledStateChanged(const QRPC::NodeList &nodes);
 
-    /// Everything may have changed: modules read the whole tree anew.
+    /// Everything may have changed: modules read the whole tree anew. Sent once after the modules
+    /// were loaded too, since they show nothing before the first.
     void modelReset();
 };

@@ -3,11 +3,11 @@
 
 // A module that only counts how often it is entered.
 
-#include <QtGlobal>
+#include "host/initPlugin.h"
 
 static int s_calls = 0;
 
-extern "C" Q_DECL_EXPORT void initPlugin()
+void initPlugin()
 {
     ++s_calls;
 }

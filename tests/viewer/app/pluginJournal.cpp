@@ -4,6 +4,7 @@
 // A module with a window that writes down, in the application's property "journal", what its host
 // does and when.
 
+#include "host/initPlugin.h"
 #include "host/kxKernelServiceFactory.h"
 #include "host/kxMainWindowService.h"
 #include "host/kxOverlayService.h"
@@ -29,7 +30,7 @@ void note(const char *event)
 
 } // namespace
 
-extern "C" Q_DECL_EXPORT void initPlugin()
+void initPlugin()
 {
     note("initPlugin");
     auto *windows = service<kxMainWindowService>();

@@ -3,11 +3,11 @@
 
 // A module that cannot start.
 
-#include <QtGlobal>
+#include "host/initPlugin.h"
 
 #include <stdexcept>
 
-extern "C" Q_DECL_EXPORT void initPlugin()
+void initPlugin()
 {
     throw std::runtime_error("no room for me");
 }

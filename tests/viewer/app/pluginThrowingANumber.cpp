@@ -3,9 +3,9 @@
 
 // A module that cannot start and does not say why.
 
-#include <QtGlobal>
+#include "host/initPlugin.h"
 
-extern "C" Q_DECL_EXPORT void initPlugin()
+void initPlugin()
 {
     throw 7;
 }

@@ -3,11 +3,11 @@
 
 // A module that was built for a host library with more functions than this one has.
 
-#include <QtGlobal>
+#include "host/initPlugin.h"
 
 extern "C" void functionOfAnotherHost();
 
-extern "C" Q_DECL_EXPORT void initPlugin()
+void initPlugin()
 {
     functionOfAnotherHost();
 }
