@@ -72,8 +72,9 @@ QStringList EditorTest::commandsOf(const std::function<void()> &action)
     action();
     QStringList commands;
     for (const QString &line : log().take()) {
+        const QString operation = line.section(' ', 0, 0);
         const bool isQuestion =
-            line.startsWith("get") || line.startsWith("is") || line.contains('.');
+            operation.startsWith("get") || operation.startsWith("is") || operation.contains('.');
         if (!isQuestion)
             commands.append(line);
     }
