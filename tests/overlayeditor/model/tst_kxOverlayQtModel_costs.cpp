@@ -52,7 +52,7 @@ void tst_kxOverlayQtModel_costs::shouldAskOncePerNodeForAReset_data()
     QTest::addColumn<int>("overlays");
     QTest::newRow("flat, 100") << 100 << "a" << 0 << 1;
     QTest::newRow("flat, 1000") << 1000 << "a" << 0 << 1;
-    const QString twenty = QStringList(QVector<QString>(20, "a").toList()).join(' ');
+    const QString twenty = QString("a ").repeated(20);
     QTest::newRow("in groups of 20") << 50 << "g(" + twenty + ")" << 1 << 20;
     const QString deep = QString("g(").repeated(100) + QString(")").repeated(100);
     QTest::newRow("100 levels deep") << 10 << deep << 100 << 0;
@@ -64,7 +64,7 @@ void tst_kxOverlayQtModel_costs::shouldAskOncePerNodeForAReset()
     QFETCH(QString, top);
     QFETCH(int, groups);
     QFETCH(int, overlays);
-    fill(QStringList(QVector<QString>(tops, top).toList()).join(' '));
+    fill((top + ' ').repeated(tops));
     Q_EMIT service().modelReset();
     const int nodes = tops * (groups + overlays);
     QCOMPARE(count("getRootNode"), nodes + 1);
@@ -93,8 +93,7 @@ void tst_kxOverlayQtModel_costs::shouldAskTheSameForEachNodeOfAList()
     QFETCH(int, present);
     QFETCH(int, added);
     fillFlat(present);
-    const QRPC::NodeList tops =
-        service().insert(1, -1, QStringList(QVector<QString>(added, "b").toList()).join(' '));
+    const QRPC::NodeList tops = service().insert(1, -1, QString("b ").repeated(added));
     log().clear();
     Q_EMIT service().nodesAdded(tops);
     QCOMPARE(model().rowCount(), present + added);
