@@ -23,6 +23,7 @@ namespace viewer {
 namespace {
 
 constexpr QSize DefaultSize(1600, 1000);
+constexpr double MostOfScreen = 0.94; // what is left is for the window's frame
 
 // Raised when docks get other names, so that an old layout is not applied to them.
 constexpr int LayoutVersion = 1;
@@ -79,7 +80,7 @@ void MainWindow::restoreLayout(const QSettings &settings)
 {
     useDefaultLayout();
     const QSize usual(scaled(DefaultSize.width(), this), scaled(DefaultSize.height(), this));
-    resize(screen() ? usual.boundedTo(screen()->availableSize()) : usual);
+    resize(screen() ? usual.boundedTo(screen()->availableSize() * MostOfScreen) : usual);
     restoreGeometry(settings.value(geometryKey()).toByteArray());
     m_wantsDefaultSizes = !restoreState(settings.value(stateKey()).toByteArray(), LayoutVersion);
 }

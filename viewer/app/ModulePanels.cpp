@@ -69,8 +69,9 @@ void ModulePanels::applyDefaultSizes()
 {
     const QList<QDockWidget *> docks =
         m_window->findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    const int width = qMin(scaled(UsualWidth, m_window), m_window->width() / 2);
     for (QDockWidget *panel : docks)
-        m_window->resizeDocks({panel}, {scaled(UsualWidth, m_window)}, Qt::Horizontal);
+        m_window->resizeDocks({panel}, {width}, Qt::Horizontal);
 }
 
 QMenu *ModulePanels::categoryMenu(const QString &category)

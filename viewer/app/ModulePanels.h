@@ -42,7 +42,8 @@ public:
     /// Identifier of a module's help page; empty for an unknown name.
     QString helpId(const QString &name) const;
 
-    /// The places of panels when nothing is remembered: on the right, at their usual width.
+    /// The places of panels when nothing is remembered: on the right, at their usual width, but with no
+    /// more than half of the window.
     void applyDefaultSizes();
 
 private:
