@@ -23,9 +23,12 @@ void kxOverlayTreeView::startDrag(Qt::DropActions supportedActions)
     deselectHiddenRows();
     const QScopedValueRollback<bool> dragging(m_dragging, true);
     const kxDropTrace trace(overlayModel());
+    const QRPC::NodeList openNodes = openSelectedNodes();
     QTreeView::startDrag(supportedActions);
     // Only now the view has removed the rows that it takes for the dragged ones.
-    settle(trace);
+    overlayModel()->settle(trace);
+    open(openNodes);
+    selectDropped(trace);
 }
 
 void kxOverlayTreeView::dropEvent(QDropEvent *event)
@@ -36,7 +39,8 @@ void kxOverlayTreeView::dropEvent(QDropEvent *event)
     }
     const kxDropTrace trace(overlayModel());
     QTreeView::dropEvent(event);
-    settle(trace);
+    overlayModel()->settle(trace);
+    selectDropped(trace);
 }
 
 void kxOverlayTreeView::deselectHiddenRows()
@@ -58,11 +62,32 @@ bool kxOverlayTreeView::isHidden(QModelIndex index) const
     return index.isValid();
 }
 
-void kxOverlayTreeView::settle(const kxDropTrace &trace)
+/// The nodes of the selected rows, and of those inside them, whose rows are open.
+QRPC::NodeList kxOverlayTreeView::openSelectedNodes() const
 {
-    if (trace.droppedNodes().isEmpty())
-        return;
-    overlayModel()->settle(trace);
+    QRPC::NodeList nodes;
+    const QModelIndexList indexes = selectionModel()->selectedIndexes();
+    for (const QModelIndex &index : indexes)
+        collectOpen(index, &nodes);
+    return nodes;
+}
+
+void kxOverlayTreeView::collectOpen(const QModelIndex &index, QRPC::NodeList *nodes) const
+{
+    if (isExpanded(index))
+        nodes->append(overlayModel()->getNodeId(index));
+    for (int row = 0; row < model()->rowCount(index); ++row)
+        collectOpen(model()->index(row, 0, index), nodes);
+}
+
+void kxOverlayTreeView::open(const QRPC::NodeList &nodes)
+{
+    for (const QRPC::NodeId node : nodes)
+        expand(overlayModel()->indexFromId(node));
+}
+
+void kxOverlayTreeView::selectDropped(const kxDropTrace &trace)
+{
     QItemSelection dropped;
     const QRPC::NodeList nodes = trace.droppedNodes();
     for (const QRPC::NodeId node : nodes) {
@@ -70,5 +95,20 @@ void kxOverlayTreeView::settle(const kxDropTrace &trace)
         if (index.isValid())
             kxSelectionRanges::append(&dropped, index);
     }
+    // A drop of nodes that are not here moves nothing and takes nobody's selection away.
+    if (dropped.isEmpty())
+        return;
     selectionModel()->select(dropped, QItemSelectionModel::ClearAndSelect);
+    makeCurrent(dropped.constFirst().topLeft());
+}
+
+/// The keyboard goes on from here, but a closed group is not opened for it.
+void kxOverlayTreeView::makeCurrent(const QModelIndex &index)
+{
+    QModelIndex shown = index;
+    for (QModelIndex group = index.parent(); group.isValid(); group = group.parent()) {
+        if (!isExpanded(group))
+            shown = group;
+    }
+    selectionModel()->setCurrentIndex(shown, QItemSelectionModel::NoUpdate);
 }

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "host/QRPC.h"
+
 #include <QTreeView>
 
 class kxDropTrace;
@@ -10,11 +12,11 @@ class kxOverlayQtModel;
 
 /// The tree view of the editor. Created by the editor, owned by its window; GUI thread only.
 ///
-/// It adds one thing to the toolkit's view: after a drop the tree equals the service, and the
-/// dropped nodes are selected. By itself a drop leaves copies that show what the rows showed when
-/// the drag began, and the view then removes every row that is selected by then, dragged or not.
-/// So rows that a filter hides are deselected when a drag begins, and once the drag is over the
-/// model settles what it touched.
+/// It adds one thing to the toolkit's view: after a drop the tree equals the service, the dropped
+/// nodes are selected and open as before, and the keyboard goes on from them. By itself a drop
+/// leaves closed copies that show what the rows showed when the drag began, and the view then
+/// removes every row that is selected by then, dragged or not. So rows that a filter hides are
+/// deselected when a drag begins, and once the drag is over the model settles what it touched.
 class kxOverlayTreeView : public QTreeView
 {
     Q_OBJECT
@@ -31,7 +33,11 @@ private:
     kxOverlayQtModel *overlayModel() const;
     void deselectHiddenRows();
     bool isHidden(QModelIndex index) const;
-    void settle(const kxDropTrace &trace);
+    QRPC::NodeList openSelectedNodes() const;
+    void collectOpen(const QModelIndex &index, QRPC::NodeList *nodes) const;
+    void open(const QRPC::NodeList &nodes);
+    void selectDropped(const kxDropTrace &trace);
+    void makeCurrent(const QModelIndex &index);
 
     bool m_dragging = false;
 };

@@ -9,11 +9,20 @@ kxDropTrace::kxDropTrace(kxOverlayQtModel *model) : m_model(model)
 {
     connect(model, &QAbstractItemModel::rowsInserted, this, &kxDropTrace::noteInsertion);
     connect(model, &QAbstractItemModel::rowsRemoved, this, &kxDropTrace::noteParent);
-    connect(model, &kxOverlayQtModel::nodesDropped, this,
-            [this](const QRPC::NodeList &nodes) { m_droppedNodes = nodes; });
+    connect(model, &kxOverlayQtModel::nodesDropped, this, &kxDropTrace::noteDrop);
 }
 
 kxDropTrace::~kxDropTrace() = default;
+
+/// The view removes the rows that were dragged, but rows of nodes that came with a drag from
+/// elsewhere stay where they were; and a drop without rows of the toolkit's inserts none.
+void kxDropTrace::noteDrop(const QRPC::NodeList &nodes, const QModelIndex &target)
+{
+    m_droppedNodes = nodes;
+    noteParent(target);
+    for (const QRPC::NodeId node : nodes)
+        noteParent(m_model->indexFromId(node).parent());
+}
 
 void kxDropTrace::noteInsertion(const QModelIndex &parent, int first, int last)
 {
@@ -24,10 +33,12 @@ void kxDropTrace::noteInsertion(const QModelIndex &parent, int first, int last)
 
 void kxDropTrace::noteParent(const QModelIndex &parent)
 {
-    if (!parent.isValid())
+    if (!parent.isValid()) {
         m_rootTouched = true;
-    else if (!m_parents.contains(parent))
+    } else if (!m_known.contains(parent)) {
+        m_known.insert(parent);
         m_parents.append(parent);
+    }
 }
 
 QModelIndexList kxDropTrace::insertedRows() const

@@ -7,6 +7,7 @@
 
 #include <QObject>
 #include <QPersistentModelIndex>
+#include <QSet>
 #include <QVector>
 
 class kxOverlayQtModel;
@@ -22,22 +23,25 @@ public:
     explicit kxDropTrace(kxOverlayQtModel *model);
     ~kxDropTrace() override;
 
-    /// The nodes of the last drop that the model took, in drag order; empty when there was none.
+    /// The nodes of the last drop that the service was asked to move, in drag order.
     QRPC::NodeList droppedNodes() const { return m_droppedNodes; }
 
     /// Rows that were inserted and are still there.
     QModelIndexList insertedRows() const;
 
-    /// Parents that lost or gained rows and are still there; an invalid index stands for the root.
+    /// Parents that lost or gained rows, or nodes of a drop, and are still there; an invalid index
+    /// stands for the root.
     QModelIndexList touchedParents() const;
 
 private:
+    void noteDrop(const QRPC::NodeList &nodes, const QModelIndex &target);
     void noteInsertion(const QModelIndex &parent, int first, int last);
     void noteParent(const QModelIndex &parent);
 
     kxOverlayQtModel *m_model;
     QRPC::NodeList m_droppedNodes;
     QVector<QPersistentModelIndex> m_inserted;
-    QVector<QPersistentModelIndex> m_parents;
+    QVector<QPersistentModelIndex> m_parents; // in the order of their first change
+    QSet<QPersistentModelIndex> m_known;      // the same
     bool m_rootTouched = false;
 };

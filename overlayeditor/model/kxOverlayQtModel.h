@@ -72,8 +72,9 @@ public:
     void settle(const kxDropTrace &trace);
 
 Q_SIGNALS:
-    /// A drop was taken; the service has moved the nodes.
-    void nodesDropped(const QRPC::NodeList &nodes);
+    /// The service was asked to move the nodes of a drop, and their rows are still where they were.
+    /// `target` is the row that was dropped on or into, invalid for the root.
+    void nodesDropped(const QRPC::NodeList &nodes, const QModelIndex &target);
 
     /// The service has removed the nodes of these rows, and the rows go next, one by one. Whoever
     /// keeps a selection of rows takes leave of them all at once here.

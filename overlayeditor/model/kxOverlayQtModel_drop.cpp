@@ -83,9 +83,9 @@ bool kxOverlayQtModel::dropMimeData(const QMimeData *data, Qt::DropAction action
         const QScopedValueRollback<bool> guard(m_updating, true);
         kxService<kxOverlayService>()->moveNodes(nodes, target, row);
     }
+    // Before the copies are there, while a node has one row only.
+    Q_EMIT nodesDropped(nodes, place);
     if (parent.isValid() && !place.isValid())
         return false;
-    const bool taken = QStandardItemModel::dropMimeData(data, Qt::MoveAction, row, column, place);
-    Q_EMIT nodesDropped(nodes);
-    return taken;
+    return QStandardItemModel::dropMimeData(data, Qt::MoveAction, row, column, place);
 }

@@ -17,7 +17,7 @@ void run(const QStringList &arguments)
         qWarning("xdotool %s ended with %d", qPrintable(arguments.join(' ')), code);
 }
 
-QStringList moveTo(const QWidget &widget, const QPoint &place)
+QStringList motion(const QWidget &widget, const QPoint &place)
 {
     const QPoint global = widget.mapToGlobal(place) * widget.devicePixelRatioF();
     return {"mousemove", QString::number(global.x()), QString::number(global.y())};
@@ -29,7 +29,7 @@ namespace realInput {
 
 void click(const QWidget &widget, const QPoint &place, const QStringList &heldKeys)
 {
-    QStringList arguments = moveTo(widget, place);
+    QStringList arguments = motion(widget, place);
     for (const QString &held : heldKeys)
         arguments << "keydown" << held;
     arguments << "click"
@@ -44,18 +44,43 @@ void key(const QString &name)
     run({"key", name});
 }
 
+void keyDown(const QString &name)
+{
+    run({"keydown", name});
+}
+
+void keyUp(const QString &name)
+{
+    run({"keyup", name});
+}
+
 void startDrag(const QWidget &widget, const QPoint &from, const QPoint &to)
 {
     // The X server merges moves that follow one another at once; a hand is slower.
     const QStringList pause{"sleep", "0.05"};
-    QStringList arguments = moveTo(widget, from) + pause + QStringList{"mousedown", "1"};
+    QStringList arguments = motion(widget, from) + pause + QStringList{"mousedown", "1"};
     constexpr int steps = 4;
     for (int step = 1; step <= steps; ++step)
         arguments +=
-            moveTo(widget, from + (to - from) * step / steps + QPoint(step % 2, 0)) + pause;
-    arguments += moveTo(widget, to) + pause + QStringList{"mouseup", "1"};
+            motion(widget, from + (to - from) * step / steps + QPoint(step % 2, 0)) + pause;
+    arguments += motion(widget, to) + pause + QStringList{"mouseup", "1"};
     if (!QProcess::startDetached(program, arguments))
         qWarning("xdotool could not be started");
+}
+
+void moveTo(const QWidget &widget, const QPoint &place)
+{
+    run(motion(widget, place));
+}
+
+void press()
+{
+    run({"mousedown", "1"});
+}
+
+void release()
+{
+    run({"mouseup", "1"});
 }
 
 } // namespace realInput

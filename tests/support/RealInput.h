@@ -19,8 +19,17 @@ void click(const QWidget &widget, const QPoint &place, const QStringList &heldKe
 /// Presses and releases a key by its X name ("Delete", "ctrl+a").
 void key(const QString &name);
 
+/// The halves of that.
+void keyDown(const QString &name);
+void keyUp(const QString &name);
+
 /// Drags with the left button from one place of a widget to another one. The moves come while the
 /// drag runs in an event loop of its own, so that the test goes on at once and waits for the drop.
 void startDrag(const QWidget &widget, const QPoint &from, const QPoint &to);
+
+/// The steps of a drag, for who waits in between.
+void moveTo(const QWidget &widget, const QPoint &place);
+void press();
+void release();
 
 } // namespace realInput

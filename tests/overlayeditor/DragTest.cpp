@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "tests/overlayeditor/DragTest.h"
+
+#include "host/kxIconManager.h"
+#include "host/kxIconOptions.h"
+#include "tests/support/RealDrag.h"
+#include "tests/support/RealInput.h"
+
+namespace {
+
+QImage pictureFor(RecordingService::Node &node, bool active)
+{
+    kxIconOptions options;
+    options.setOption(2, !active);
+    options.setOption(4, false);
+    const char *const names[] = {"scenegraph/Overlay", "scenegraph/GroupNode", "scenegraph/Switch"};
+    return QIcon(kxIconManager::get(names[int(node.kind)], options)).pixmap(18, 16).toImage();
+}
+
+} // namespace
+
+void DragTest::open(const QString &line)
+{
+    openEditor(line);
+    showWindow();
+}
+
+QPoint DragTest::placeOf(QRPC::NodeId node, Edge edge)
+{
+    const QRect viewport = tree().viewport()->rect();
+    if (node == 0)
+        return QPoint(viewport.center().x(), viewport.bottom() - 40);
+    const QRect row = tree().visualRect(index(node));
+    const int y[] = {row.top() + 1, row.center().y(), row.bottom() - 1};
+    return QPoint(row.center().x(), y[edge]);
+}
+
+void DragTest::selectByMouse(const QRPC::NodeList &nodes)
+{
+    QStringList held;
+    for (const QRPC::NodeId node : nodes) {
+        realInput::click(*tree().viewport(), placeOf(node, On), held);
+        QTRY_VERIFY(selected().contains(node));
+        held = QStringList{"ctrl"};
+    }
+    QCOMPARE(selectionOrder(), nodes);
+    log().clear();
+}
+
+bool DragTest::drag(QRPC::NodeId from, QRPC::NodeId to, Edge edge,
+                    const std::function<void()> &beforeDrop)
+{
+    RealDrag drag(tree().viewport(), [=] { return placeOf(to, edge); });
+    drag.setBeforeDrop(beforeDrop);
+    // Not where the row was clicked, which would make it a double click.
+    return drag.runFrom(tree().viewport(), placeOf(from, On) - QPoint(30, 0));
+}
+
+QStringList DragTest::commands()
+{
+    QStringList found;
+    const QStringList lines = log().lines();
+    for (const QString &line : lines) {
+        if (!line.startsWith("get") && !line.startsWith("is") && !line.contains('.'))
+            found.append(line);
+    }
+    return found;
+}
+
+QString DragTest::difference()
+{
+    const QString rows = treeDifference(model(), service());
+    if (!rows.isEmpty())
+        return rows;
+    const QRPC::NodeList nodes = service().allIds();
+    for (const QRPC::NodeId id : nodes) {
+        RecordingService::Node &node = service().node(id);
+        const QIcon shownIcon = index(id).data(Qt::DecorationRole).value<QIcon>();
+        if (shownIcon.pixmap(18, 16).toImage() != pictureFor(node, service().isActiveNode(node)))
+            return QStringLiteral("the icon of %1 is not that of its kind and state").arg(id);
+    }
+    return QString();
+}
