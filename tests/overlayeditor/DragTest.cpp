@@ -30,9 +30,9 @@ void DragTest::open(const QString &line)
 QPoint DragTest::placeOf(QRPC::NodeId node, Edge edge)
 {
     const QRect viewport = tree().viewport()->rect();
-    if (node == 0)
-        return QPoint(viewport.center().x(), viewport.bottom() - 40);
     const QRect row = tree().visualRect(index(node));
+    if (row.isEmpty())
+        return QPoint(viewport.center().x(), viewport.bottom() - 40);
     const int y[] = {row.top() + 1, row.center().y(), row.bottom() - 1};
     return QPoint(row.center().x(), y[edge]);
 }
@@ -54,8 +54,10 @@ bool DragTest::drag(QRPC::NodeId from, QRPC::NodeId to, Edge edge,
 {
     RealDrag drag(tree().viewport(), [=] { return placeOf(to, edge); });
     drag.setBeforeDrop(beforeDrop);
-    // Not where the row was clicked, which would make it a double click.
-    return drag.runFrom(tree().viewport(), placeOf(from, On) - QPoint(30, 0));
+    // By the icon: an open name editor leaves it free, and a press where the row was clicked would
+    // make that a double click.
+    const QRect row = tree().visualRect(index(from));
+    return drag.runFrom(tree().viewport(), QPoint(row.left() + 30, row.center().y()));
 }
 
 QStringList DragTest::commands()

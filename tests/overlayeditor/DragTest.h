@@ -17,7 +17,8 @@ protected:
     /// Builds the editor and shows its window.
     void open(const QString &line);
 
-    /// A place in the tree's viewport. The node 0 stands for the empty space below all rows.
+    /// A place in the tree's viewport. For a node without a row it is the empty space below
+    /// all rows.
     QPoint placeOf(QRPC::NodeId node, Edge edge);
 
     /// Clicks the rows one after the other, as a user does who wants them all.
