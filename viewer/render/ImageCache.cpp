@@ -3,6 +3,7 @@
 
 #include "viewer/render/ImageCache.h"
 
+#include <QFileInfo>
 #include <QImageReader>
 
 namespace viewer {
@@ -20,6 +21,9 @@ bool hasNoPixels(const QImageReader &reader)
 
 QImage readImage(const QString &path)
 {
+    // To open a pipe or a device may take forever.
+    if (!QFileInfo(path).isFile())
+        return {};
     QImageReader reader(path);
     reader.setAutoTransform(true);
     if (hasNoPixels(reader) && !reader.size().isEmpty())

@@ -6,6 +6,8 @@
 
 #include <QTemporaryDir>
 
+#include <sys/stat.h>
+
 using viewer::ImageCache;
 
 class tst_ImageCache : public KxTest
@@ -17,6 +19,7 @@ private Q_SLOTS:
     void shouldReadAForgottenFileAnew();
     void shouldReadEverythingAnewAfterForgettingAll();
     void shouldRememberThatAFileIsMissing();
+    void shouldNotWaitForAPipe();
     void shouldScaleOnceForEachSize();
     void shouldReadDrawingsLarge();
 
@@ -74,6 +77,14 @@ void tst_ImageCache::shouldRememberThatAFileIsMissing()
     QVERIFY(cache.image(m_folder.filePath("no.png")).isNull());
     QVERIFY(cache.scaledImage(m_folder.filePath("no.png"), {4, 4}).isNull());
     QCOMPARE(cache.readCount(), 1);
+}
+
+void tst_ImageCache::shouldNotWaitForAPipe()
+{
+    const QString pipe = m_folder.filePath("pipe.png");
+    QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    ImageCache cache;
+    QVERIFY(cache.image(pipe).isNull());
 }
 
 void tst_ImageCache::shouldScaleOnceForEachSize()
