@@ -137,8 +137,8 @@ public:
     /// root cannot be deleted.
     virtual void deleteNodes(const QRPC::NodeList &nodes) = 0;
 
-    /// Puts nodes, in their order, into a new group at the place of the first. Announced as: the
-    /// empty group with nodesAdded(), the move with nodesMoved(), the group with nodesCreated().
+    /// Puts nodes, ordered as moveNodes() orders them, into a new group at the place of one of them.
+    /// Announced as: the empty group by nodesAdded(), the move by nodesMoved(), then nodesCreated().
     virtual void groupNodes(const QRPC::NodeList &nodes) = 0;
 
     /// Moves nodes under `newParent`, before the child that stands at `row` when the call is made;
