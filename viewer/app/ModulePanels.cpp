@@ -69,7 +69,7 @@ void ModulePanels::applyDefaultSizes()
 {
     const QList<QDockWidget *> docks =
         m_window->findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly);
-    const int width = qMin(scaled(UsualWidth, m_window), m_window->width() / 2);
+    const int width = qMin(scaled(UsualWidth, m_window), m_window->width() * 3 / 5);
     for (QDockWidget *panel : docks)
         m_window->resizeDocks({panel}, {width}, Qt::Horizontal);
 }

@@ -43,7 +43,7 @@ public:
     QString helpId(const QString &name) const;
 
     /// The places of panels when nothing is remembered: on the right, at their usual width, but with no
-    /// more than half of the window.
+    /// more than three fifths of the window.
     void applyDefaultSizes();
 
 private:

@@ -82,7 +82,7 @@ private Q_SLOTS:
     void shouldKeepTheFirstOfTwoModulesOfOneName();
     void shouldSurviveARegistrationWithoutWindow();
     void shouldGiveThePanelItsUsualWidth();
-    void shouldLeaveTheViewHalfOfANarrowWindow();
+    void shouldLeaveTheViewItsShareOfANarrowWindow();
     void shouldFitTheScreenWhereNothingIsRemembered();
     void shouldRememberTheLayout();
     void shouldUseTheDefaultLayoutWhereTheRememberedOneIsBroken();
@@ -187,14 +187,14 @@ void tst_MainWindow::shouldGiveThePanelItsUsualWidth()
     QTRY_COMPARE(window.modulePanels()->dock("Editor")->width(), scaled(700, &window));
 }
 
-void tst_MainWindow::shouldLeaveTheViewHalfOfANarrowWindow()
+void tst_MainWindow::shouldLeaveTheViewItsShareOfANarrowWindow()
 {
     Window window;
     window.add("Editor");
     window.useDefaultLayout();
     window.resize(1000, 700);
     window.setVisible(true);
-    QTRY_COMPARE(window.modulePanels()->dock("Editor")->width(), 500);
+    QTRY_COMPARE(window.modulePanels()->dock("Editor")->width(), 600);
 }
 
 void tst_MainWindow::shouldFitTheScreenWhereNothingIsRemembered()
