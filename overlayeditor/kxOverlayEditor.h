@@ -10,8 +10,6 @@
 #include <QObject>
 #include <QString>
 
-#include <functional>
-
 class QKXSearchBox;
 class QKeyEvent;
 class QMenu;
@@ -19,7 +17,6 @@ class QTreeView;
 class QWidget;
 class kxOverlayEditorGUIW;
 class kxOverlayQtModel;
-class kxOverlayService;
 
 /// The controller of the module: builds the editor's window, sends what the user does to the overlay
 /// service and shows what the service announces. It holds no overlay data: commands and edits take
@@ -161,9 +158,6 @@ private:
     bool handleKey(const QKeyEvent *event);
     bool isEditingName() const;
     void showTypeControls(bool text);
-    template<class T>
-    void updateTypeProperty(QWidget *control, T (kxOverlayService::*getter)(QRPC::NodeId),
-                            const std::function<void(T)> &setter);
 
     kxOverlayQtModel *m_model = nullptr;
     kxOverlayEditorGUIW *m_window = nullptr;

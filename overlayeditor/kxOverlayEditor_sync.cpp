@@ -7,6 +7,7 @@
 #include "overlayeditor/kxOverlayEditor.h"
 
 #include "host/QKXColor.h"
+#include "host/QKXColorManipulator.h"
 #include "host/kxOverlayService.h"
 #include "overlayeditor/kxCommonValue.h"
 #include "overlayeditor/kxMultiselect.h"
@@ -15,8 +16,9 @@
 
 #include <QSignalBlocker>
 
-#include <algorithm>
 #include <cmath>
+#include <functional>
+#include <initializer_list>
 
 using kxMultiselect::setControlMultiselect;
 
@@ -43,11 +45,24 @@ std::function<T(QRPC::NodeId)> read(T (kxOverlayService::*getter)(QRPC::NodeId))
     return [getter](QRPC::NodeId node) { return (kxService<kxOverlayService>()->*getter)(node); };
 }
 
-/// What a colour control does with a colour of the service.
-template<class Control>
-std::function<void(QColor)> showColor(Control *control)
+/// One refresh of a property that only overlays of one type have.
+template<class T>
+void updateTypeProperty(kxOverlayEditor *editor, QWidget *control,
+                        T (kxOverlayService::*getter)(QRPC::NodeId),
+                        const std::function<void(T)> &setter)
 {
-    return [control](const QColor &color) { control->setColor(QKXColor(color)); };
+    const QRPC::NodeList nodes = editor->getSelectedNodes();
+    if (editor->shouldUpdate(nodes, true))
+        updateControl<T>(control, nodes, read(getter), setter);
+}
+
+/// One refresh of a colour.
+void updateColor(kxOverlayEditor *editor, QKXColorManipulator *control,
+                 QColor (kxOverlayService::*getter)(QRPC::NodeId))
+{
+    updateTypeProperty<QColor>(editor, control, getter, [control](const QColor &color) {
+        control->setColor(QKXColor(color));
+    });
 }
 
 bool isText(QRPC::NodeId node)
@@ -151,57 +166,43 @@ void kxOverlayEditor::showTypeControls(bool text)
     m_window->_image_edit->setVisible(!text);
 }
 
-/// One refresh of a property that only overlays of one type have.
-template<class T>
-void kxOverlayEditor::updateTypeProperty(QWidget *control,
-                                         T (kxOverlayService::*getter)(QRPC::NodeId),
-                                         const std::function<void(T)> &setter)
-{
-    const QRPC::NodeList nodes = getSelectedNodes();
-    if (shouldUpdate(nodes, true))
-        updateControl<T>(control, nodes, read(getter), setter);
-}
-
 void kxOverlayEditor::updateText(const QRPC::NodeList &changed)
 {
     Q_UNUSED(changed)
     QPlainTextEdit *edit = m_window->_text_edit;
-    updateTypeProperty<QString>(edit, &kxOverlayService::getText, [edit](const QString &text) {
-        // Unchanged text keeps cursor and undo history.
-        if (edit->document()->toPlainText() != text)
-            edit->setPlainText(text);
-    });
+    updateTypeProperty<QString>(this, edit, &kxOverlayService::getText,
+                                [edit](const QString &text) {
+                                    // Unchanged text keeps cursor and undo history.
+                                    if (edit->document()->toPlainText() != text)
+                                        edit->setPlainText(text);
+                                });
 }
 
 void kxOverlayEditor::updateFont(const QRPC::NodeList &changed)
 {
     Q_UNUSED(changed)
     QFontComboBox *box = m_window->_font_combo_box;
-    updateTypeProperty<QString>(box, &kxOverlayService::getFont, [box](const QString &family) {
-        box->setCurrentFont(QFont(family, -1, -1, false));
-    });
+    updateTypeProperty<QString>(
+        this, box, &kxOverlayService::getFont,
+        [box](const QString &family) { box->setCurrentFont(QFont(family, -1, -1, false)); });
 }
 
 void kxOverlayEditor::updateFontColor(const QRPC::NodeList &changed)
 {
     Q_UNUSED(changed)
-    updateTypeProperty<QColor>(m_window->_color_slider, &kxOverlayService::getFontColor,
-                               showColor(m_window->_color_slider));
+    updateColor(this, m_window->_color_slider, &kxOverlayService::getFontColor);
 }
 
 void kxOverlayEditor::updateBackgroundColor(const QRPC::NodeList &changed)
 {
     Q_UNUSED(changed)
-    updateTypeProperty<QColor>(m_window->_background_slider, &kxOverlayService::getBackgroundColor,
-                               showColor(m_window->_background_slider));
+    updateColor(this, m_window->_background_slider, &kxOverlayService::getBackgroundColor);
 }
 
 void kxOverlayEditor::updateBackgroundTransparency(const QRPC::NodeList &changed)
 {
     Q_UNUSED(changed)
-    updateTypeProperty<QColor>(m_window->_transparency_slider,
-                               &kxOverlayService::getBackgroundTransparency,
-                               showColor(m_window->_transparency_slider));
+    updateColor(this, m_window->_transparency_slider, &kxOverlayService::getBackgroundTransparency);
 }
 
 void kxOverlayEditor::updateImage(const QRPC::NodeList &changed)
