@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: the Overlay Editor authors
 // SPDX-License-Identifier: MIT
 
+#include "overlayeditor/model/kxDropTrace.h"
 #include "tests/overlayeditor/model/ModelTest.h"
 
 #include <QDataStream>
@@ -52,6 +53,8 @@ private Q_SLOTS:
     void shouldReadATruncatedRecordAsFarAsItGoes();
     void shouldIgnoreTheEchoOfItsMove();
     void shouldInsertCopiesThatAreFoundAgain();
+    void shouldSurviveATargetThatDisappearsInsideItsMove_data();
+    void shouldSurviveATargetThatDisappearsInsideItsMove();
 
 private:
     std::unique_ptr<QMimeData> drag(const QRPC::NodeList &nodes)
@@ -263,6 +266,33 @@ void tst_kxOverlayQtModel_drop::shouldInsertCopiesThatAreFoundAgain()
     QCOMPARE(item(3)->parent(), item(2));
     service().setName({3}, "x3");
     service().deleteNodes({4});
+    KX_COMPARE_TREE(model(), service());
+}
+
+void tst_kxOverlayQtModel_drop::shouldSurviveATargetThatDisappearsInsideItsMove_data()
+{
+    QTest::addColumn<bool>("reset");
+    QTest::newRow("reset") << true;
+    QTest::newRow("removed") << false;
+}
+
+void tst_kxOverlayQtModel_drop::shouldSurviveATargetThatDisappearsInsideItsMove()
+{
+    QFETCH(bool, reset);
+    fill("a2 g3(b4) c5");
+    const auto data = drag({2, 5});
+    service().setHook([&](const QString &) {
+        service().setHook({});
+        service().erase({3});
+        if (reset)
+            Q_EMIT service().modelReset();
+        else
+            Q_EMIT service().nodesRemoved({3});
+    });
+    const kxDropTrace trace(&model());
+    QVERIFY(!model().dropMimeData(data.get(), Qt::MoveAction, -1, -1, index(3)));
+    model().settle(trace); // the dragged nodes are gone with the target
+    QCOMPARE(trace.droppedNodes(), (QRPC::NodeList{2, 5}));
     KX_COMPARE_TREE(model(), service());
 }
 
