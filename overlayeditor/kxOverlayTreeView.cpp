@@ -66,18 +66,24 @@ bool kxOverlayTreeView::isHidden(QModelIndex index) const
 QRPC::NodeList kxOverlayTreeView::openSelectedNodes() const
 {
     QRPC::NodeList nodes;
+    QSet<QModelIndex> visited;
     const QModelIndexList indexes = selectionModel()->selectedIndexes();
     for (const QModelIndex &index : indexes)
-        collectOpen(index, &nodes);
+        collectOpen(index, &visited, &nodes);
     return nodes;
 }
 
-void kxOverlayTreeView::collectOpen(const QModelIndex &index, QRPC::NodeList *nodes) const
+/// Visits a row once, however many of its ancestors are selected.
+void kxOverlayTreeView::collectOpen(const QModelIndex &index, QSet<QModelIndex> *visited,
+                                    QRPC::NodeList *nodes) const
 {
+    if (visited->contains(index))
+        return;
+    visited->insert(index);
     if (isExpanded(index))
         nodes->append(overlayModel()->getNodeId(index));
     for (int row = 0; row < model()->rowCount(index); ++row)
-        collectOpen(model()->index(row, 0, index), nodes);
+        collectOpen(model()->index(row, 0, index), visited, nodes);
 }
 
 void kxOverlayTreeView::open(const QRPC::NodeList &nodes)

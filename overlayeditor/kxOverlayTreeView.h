@@ -5,6 +5,7 @@
 
 #include "host/QRPC.h"
 
+#include <QSet>
 #include <QTreeView>
 
 class kxDropTrace;
@@ -34,7 +35,8 @@ private:
     void deselectHiddenRows();
     bool isHidden(QModelIndex index) const;
     QRPC::NodeList openSelectedNodes() const;
-    void collectOpen(const QModelIndex &index, QRPC::NodeList *nodes) const;
+    void collectOpen(const QModelIndex &index, QSet<QModelIndex> *visited,
+                     QRPC::NodeList *nodes) const;
     void open(const QRPC::NodeList &nodes);
     void selectDropped(const kxDropTrace &trace);
     void makeCurrent(const QModelIndex &index);

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void shouldLeaveOtherGroupsOpenOrClosed();
     void shouldKeepAClosedTargetClosed();
     void shouldLeaveDraggedGroupsOpenOrClosed();
+    void shouldLookUpOpenRowsOnceEach();
     void shouldContinueByKeyFromTheDroppedRow();
     void shouldMoveWithTheCopyKeyHeld();
     void shouldChangeNothingWhenADragIsCancelled();
@@ -164,6 +165,24 @@ void tst_kxOverlayEditor_drag::shouldLeaveDraggedGroupsOpenOrClosed()
     QVERIFY(tree().isExpanded(index(2)));
     QVERIFY(tree().isExpanded(index(3)));
     QVERIFY(!tree().isExpanded(index(5)));
+}
+
+/// Selected groups inside selected groups: each is open once.
+void tst_kxOverlayEditor_drag::shouldLookUpOpenRowsOnceEach()
+{
+    constexpr int depth = 60;
+    open("g2()");
+    const QRPC::NodeId top = service().insertChain(1, depth);
+    Q_EMIT service().nodesAdded({top});
+    tree().expandAll();
+    QRPC::NodeList chain = service().allIds();
+    chain.removeOne(2);
+    select(chain);
+    QVERIFY(drag(top, 2, On));
+    KX_COMPARE_ROWS();
+    QVERIFY(tree().isExpanded(index(top + depth - 2)));
+    const int lookUps = log().count("getRootNode");
+    QVERIFY2(lookUps < 10 * depth, qPrintable(QString::number(lookUps)));
 }
 
 void tst_kxOverlayEditor_drag::shouldContinueByKeyFromTheDroppedRow()
