@@ -36,9 +36,6 @@ private Q_SLOTS:
     void shouldLeaveNothingBehindWhenConstructionFails_data();
     void shouldLeaveNothingBehindWhenConstructionFails();
     void shouldEnableItsInputs();
-    void shouldConnectEverySignalOfTheService_data();
-    void shouldConnectEverySignalOfTheService();
-    void shouldRefreshAPropertyOnceForOneSignal();
     void shouldRefreshThePanelWhenNodesAreRemoved();
     void shouldRefreshThePanelAfterAReset();
 };
@@ -371,44 +368,6 @@ void tst_kxOverlayEditor_lifecycle::shouldEnableItsInputs()
         QCOMPARE(form._image_edit->isEnabled(), imageEnabled);
         QVERIFY(tree().isEnabled());
     }
-}
-
-void tst_kxOverlayEditor_lifecycle::shouldConnectEverySignalOfTheService_data()
-{
-    QTest::addColumn<int>("receivers");
-    for (const char *name :
-         {"nodesCreated", "overlayTypeChanged", "textChanged", "fontChanged", "fontColorChanged",
-          "backgroundColorChanged", "backgroundTransparencyChanged", "imageChanged",
-          "sizeTypeChanged", "sizeChanged", "positionChanged", "offsetChanged", "nodesAdded",
-          "enabledStateChanged"})
-        QTest::newRow(name) << 1;
-    QTest::newRow("nodesRemoved") << 2;
-    QTest::newRow("nameChanged") << 2;
-}
-
-void tst_kxOverlayEditor_lifecycle::shouldConnectEverySignalOfTheService()
-{
-    QFETCH(int, receivers);
-    openEditor();
-    const QByteArray signal =
-        QByteArray::number(QSIGNAL_CODE) + QTest::currentDataTag() + "(QRPC::NodeList)";
-    QCOMPARE(service().receivers(signal.constData()), receivers);
-}
-
-void tst_kxOverlayEditor_lifecycle::shouldRefreshAPropertyOnceForOneSignal()
-{
-    openEditor("a2 b3 c4");
-    select({2, 3});
-    // the value of the first node, then each node's against it
-    service().setFontColor({2, 3}, Qt::red);
-    QCOMPARE(log().linesOf({"getFontColor"}),
-             (QStringList{"getFontColor 2", "getFontColor 2", "getFontColor 3"}));
-    QCOMPARE(log().count("getText"), 0);
-    log().clear();
-    service().setOffsetX({2, 3}, 5.0F);
-    QCOMPARE(log().count("getOffset"), 2 * 3);
-    service().setOffsetY({2, 3}, 7.0F);
-    QCOMPARE(log().count("getOffset"), 4 * 3);
 }
 
 void tst_kxOverlayEditor_lifecycle::shouldRefreshThePanelWhenNodesAreRemoved()
