@@ -291,7 +291,11 @@ void tst_kxOverlayEditor_lifecycle::shouldOnlyTellWhenShownThroughItsOwnType()
 
 void tst_kxOverlayEditor_lifecycle::shouldLeaveItsWindowWhenItEnds()
 {
-    openEditor("a2");
+    openEditor("a2 g3(b4)");
+    showWindow();
+    select({2, 4});
+    call("renameOverlay");
+    QVERIFY(nameEditor());
     const QPointer<QWidget> panel(&window());
     const QPointer<kxOverlayQtModel> shownModel(&model());
     const kxOverlayEditor *const address = &editor();

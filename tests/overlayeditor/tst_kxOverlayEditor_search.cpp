@@ -18,6 +18,7 @@ private Q_SLOTS:
     void shouldKeepSelectionAndExpansion();
     void shouldFilterAsTheBoxSays();
     void shouldNotChangeTheModel();
+    void shouldShowWhatChangesUntilTheTextDoes();
 
 private:
     void openNamed();
@@ -76,6 +77,8 @@ void tst_kxOverlayEditor_search::shouldShowMatchesWithTheirAncestors_data()
                                          << "2(3 4) 5(6(7))";
     QTest::newRow("only an asterisk") << "*"
                                       << "2(3 4) 5(6(7)) 8";
+    QTest::newRow("an unfinished set of characters") << "[T"
+                                                     << "";
     QTest::newRow("no match") << "nothing"
                               << "";
     QTest::newRow("in several places") << "m"
@@ -151,6 +154,19 @@ void tst_kxOverlayEditor_search::shouldNotChangeTheModel()
     QCOMPARE(changed.count(), 0);
     QCOMPARE(shown(), before);
     QCOMPARE(log().lines(), QStringList());
+}
+
+/// The filter is applied when the text changes, and at no other time.
+void tst_kxOverlayEditor_search::shouldShowWhatChangesUntilTheTextDoes()
+{
+    openNamed();
+    search("text");
+    service().insert(2, 0, "x9");
+    Q_EMIT service().nodesAdded({9});
+    service().setName({4}, "other");
+    QCOMPARE(visible(), QString("2(9 3 4)"));
+    search("tex");
+    QCOMPARE(visible(), QString("2(3)"));
 }
 
 KX_TEST_MAIN(tst_kxOverlayEditor_search)
