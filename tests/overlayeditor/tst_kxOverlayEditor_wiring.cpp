@@ -1,39 +1,199 @@
 // SPDX-FileCopyrightText: the Overlay Editor authors
 // SPDX-License-Identifier: MIT
 
-#include "tests/overlayeditor/EditorTest.h"
+#include "tests/overlayeditor/PanelTest.h"
+
+#include <QSignalSpy>
 
 #include <thread>
 
-/// Which signal of the service refreshes what.
-class tst_kxOverlayEditor_wiring : public EditorTest
+namespace {
+
+using Signal = PanelProperty::Signal;
+
+/// A signal of the service, and what the editor asks when it refreshes by it: a getter, and how
+/// often for one selected overlay.
+struct Wire
+{
+    const char *name;
+    Signal signal;
+    const char *getter;
+    int questions;
+};
+
+const Wire s_wires[] = {
+    {"overlayTypeChanged", &kxOverlayService::overlayTypeChanged, "getOverlayType", 3},
+    {"nameChanged", &kxOverlayService::nameChanged, "getName", 2},
+    {"textChanged", &kxOverlayService::textChanged, "getText", 2},
+    {"fontChanged", &kxOverlayService::fontChanged, "getFont", 2},
+    {"fontColorChanged", &kxOverlayService::fontColorChanged, "getFontColor", 2},
+    {"backgroundColorChanged", &kxOverlayService::backgroundColorChanged, "getBackgroundColor", 2},
+    {"backgroundTransparencyChanged", &kxOverlayService::backgroundTransparencyChanged,
+     "getBackgroundTransparency", 2},
+    {"imageChanged", &kxOverlayService::imageChanged, "getImage", 2},
+    {"sizeTypeChanged", &kxOverlayService::sizeTypeChanged, "getSizeType", 3},
+    {"sizeChanged", &kxOverlayService::sizeChanged, "getSize", 2},
+    {"positionChanged", &kxOverlayService::positionChanged, "getPosition", 2},
+    {"offsetChanged", &kxOverlayService::offsetChanged, "getOffset", 4},
+};
+
+/// The values that the panel shows in a control of its own.
+const char *const s_getters[] = {"getName",
+                                 "getText",
+                                 "getFont",
+                                 "getFontColor",
+                                 "getBackgroundColor",
+                                 "getBackgroundTransparency",
+                                 "getImage",
+                                 "getSize",
+                                 "getPosition",
+                                 "getOffset"};
+
+} // namespace
+
+/// How the editor follows the service: every signal reaches the one slot that it is for, once.
+class tst_kxOverlayEditor_wiring : public PanelTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void shouldRefreshOncePerSignal_data() { addWires(); }
+    void shouldRefreshOncePerSignal();
+    void shouldRefreshOnceForASignalOfAnotherThread_data() { addWires(); }
+    void shouldRefreshOnceForASignalOfAnotherThread();
+    void shouldNotRefreshForAHeadlessHost_data() { addWires(); }
+    void shouldNotRefreshForAHeadlessHost();
+    void shouldNotRefreshWithoutItsWindow_data() { addWires(); }
+    void shouldNotRefreshWithoutItsWindow();
+    void shouldRefreshAllWhenNodesAreRemoved();
+    void shouldSelectCreatedNodesOnce();
+    void shouldSelectNodesCreatedInAnotherThread();
+    void shouldIgnoreStatesAndMoves();
+    void shouldRefreshOnceForEachCoordinate();
     void shouldConnectEverySignalOfTheService_data();
     void shouldConnectEverySignalOfTheService();
-    void shouldRefreshWhatASignalNames_data();
-    void shouldRefreshWhatASignalNames();
-    void shouldRefreshAPropertyOnceForOneSignal();
-    void shouldRefreshFromAnotherThread();
 
 private:
-    /// What was asked about properties since the log was emptied, without what tells whether the
-    /// selection has the property.
-    QStringList askedProperties();
+    static void addWires();
+    void openWith(QRPC::NodeId selected);
 };
 
-QStringList tst_kxOverlayEditor_wiring::askedProperties()
+void tst_kxOverlayEditor_wiring::addWires()
 {
-    QStringList asked;
-    for (const QString &line : log().take()) {
-        const QString operation = line.section(' ', 0, 0);
-        if (operation.startsWith("get") && operation != "getRootNode"
-            && operation != "getOverlayType" && !asked.contains(operation))
-            asked.append(operation);
+    QTest::addColumn<int>("row");
+    for (int row = 0; row < int(std::size(s_wires)); ++row)
+        QTest::newRow(s_wires[row].name) << row;
+}
+
+/// Of an image when the row is of images. The name has a wire to the model too, which reads the
+/// nodes of the list.
+void tst_kxOverlayEditor_wiring::openWith(QRPC::NodeId selected)
+{
+    openEditor("a2 b3 c4");
+    if (qstrcmp(QTest::currentDataTag(), "imageChanged") == 0)
+        suit(property(7));
+    select({selected});
+}
+
+void tst_kxOverlayEditor_wiring::shouldRefreshOncePerSignal()
+{
+    QFETCH(int, row);
+    const Wire &wire = s_wires[row];
+    openWith(3);
+    announce(wire.signal, {});
+    QCOMPARE(log().count(wire.getter), wire.questions);
+    for (const char *getter : s_getters) {
+        const bool isShownWith =
+            qstrcmp(getter, "getSize") == 0 && qstrcmp(wire.name, "sizeTypeChanged") == 0;
+        if (qstrcmp(getter, wire.getter) != 0 && !isShownWith)
+            QVERIFY2(log().count(getter) == 0, getter);
     }
-    return asked;
+}
+
+void tst_kxOverlayEditor_wiring::shouldRefreshOnceForASignalOfAnotherThread()
+{
+    QFETCH(int, row);
+    const Wire &wire = s_wires[row];
+    openWith(3);
+    std::thread([&] { announce(wire.signal, {}); }).join();
+    QCOMPARE(log().lines(), QStringList());
+    QCoreApplication::processEvents();
+    QCOMPARE(log().count(wire.getter), wire.questions);
+}
+
+void tst_kxOverlayEditor_wiring::shouldNotRefreshForAHeadlessHost()
+{
+    QFETCH(int, row);
+    host().headless = true;
+    openEditor("a2 b3");
+    announce(s_wires[row].signal, {});
+    Q_EMIT service().nodesCreated({});
+    Q_EMIT service().nodesRemoved({});
+    QCOMPARE(log().lines(), QStringList());
+}
+
+void tst_kxOverlayEditor_wiring::shouldNotRefreshWithoutItsWindow()
+{
+    QFETCH(int, row);
+    openWith(3);
+    delete &window();
+    announce(s_wires[row].signal, {});
+    Q_EMIT service().nodesCreated({});
+    Q_EMIT service().nodesRemoved({});
+    QCOMPARE(log().lines(), QStringList());
+    Q_EMIT service().modelReset();
+    service().deleteNodes({2, 3});
+}
+
+void tst_kxOverlayEditor_wiring::shouldRefreshAllWhenNodesAreRemoved()
+{
+    openEditor("a2 b3");
+    select({2});
+    announce(&kxOverlayService::nodesRemoved, {});
+    QCOMPARE(log().count("getName"), 2);
+    QCOMPARE(log().count("getText"), 2);
+    QCOMPARE(log().count("getOffset"), 4);
+}
+
+void tst_kxOverlayEditor_wiring::shouldSelectCreatedNodesOnce()
+{
+    openEditor("a2 b3 c4");
+    select({2});
+    QSignalSpy changes(tree().selectionModel(), &QItemSelectionModel::selectionChanged);
+    announce(&kxOverlayService::nodesCreated, {3, 4});
+    QCOMPARE(changes.count(), 1);
+    QCOMPARE(selected(), (QRPC::NodeList{3, 4}));
+}
+
+void tst_kxOverlayEditor_wiring::shouldSelectNodesCreatedInAnotherThread()
+{
+    openEditor("a2 b3 c4");
+    select({2});
+    std::thread([&] { announce(&kxOverlayService::nodesCreated, {3, 4}); }).join();
+    QCOMPARE(selected(), QRPC::NodeList{2});
+    QCoreApplication::processEvents();
+    QCOMPARE(selected(), (QRPC::NodeList{3, 4}));
+}
+
+void tst_kxOverlayEditor_wiring::shouldIgnoreStatesAndMoves()
+{
+    openEditor("a2 b3");
+    select({2});
+    announce(&kxOverlayService::enabledStateChanged, {});
+    Q_EMIT service().nodesMoved({}, {}, {});
+    announce(&kxOverlayService::nodesAdded, {});
+    for (const char *getter : s_getters)
+        QCOMPARE(log().count(getter), 0);
+}
+
+void tst_kxOverlayEditor_wiring::shouldRefreshOnceForEachCoordinate()
+{
+    openEditor("a2 b3");
+    select({2, 3});
+    service().setOffsetX({2, 3}, 4.0F);
+    QCOMPARE(log().count("getOffset"), 6);
+    service().setOffsetY({2, 3}, 5.0F);
+    QCOMPARE(log().count("getOffset"), 12);
 }
 
 void tst_kxOverlayEditor_wiring::shouldConnectEverySignalOfTheService_data()
@@ -57,65 +217,6 @@ void tst_kxOverlayEditor_wiring::shouldConnectEverySignalOfTheService()
     const QByteArray signal =
         QByteArray::number(QSIGNAL_CODE) + QTest::currentDataTag() + "(QRPC::NodeList)";
     QCOMPARE(service().receivers(signal.constData()), receivers);
-}
-
-void tst_kxOverlayEditor_wiring::shouldRefreshWhatASignalNames_data()
-{
-    QTest::addColumn<QStringList>("asked");
-    QTest::newRow("overlayTypeChanged") << QStringList{};
-    QTest::newRow("nameChanged") << QStringList{"getName"};
-    QTest::newRow("textChanged") << QStringList{"getText"};
-    QTest::newRow("fontChanged") << QStringList{"getFont"};
-    QTest::newRow("fontColorChanged") << QStringList{"getFontColor"};
-    QTest::newRow("backgroundColorChanged") << QStringList{"getBackgroundColor"};
-    QTest::newRow("backgroundTransparencyChanged") << QStringList{"getBackgroundTransparency"};
-    QTest::newRow("imageChanged") << QStringList{"getImage"};
-    QTest::newRow("sizeTypeChanged") << QStringList{"getSizeType", "getSize"};
-    QTest::newRow("sizeChanged") << QStringList{"getSize", "getSizeType"};
-    QTest::newRow("positionChanged") << QStringList{"getPosition"};
-    QTest::newRow("offsetChanged") << QStringList{"getOffset"};
-    QTest::newRow("enabledStateChanged") << QStringList{};
-}
-
-/// Whatever nodes the signal lists, the selection is what is read.
-void tst_kxOverlayEditor_wiring::shouldRefreshWhatASignalNames()
-{
-    QFETCH(QStringList, asked);
-    openEditor("a2 b3");
-    select({2, 3});
-    QVERIFY(QMetaObject::invokeMethod(&service(), QTest::currentDataTag(),
-                                      Q_ARG(QRPC::NodeList, QRPC::NodeList{99})));
-    const int types = log().count("getOverlayType");
-    QCOMPARE(askedProperties(), asked);
-    if (QByteArray(QTest::currentDataTag()) == "overlayTypeChanged")
-        QVERIFY(types > 0);
-}
-
-void tst_kxOverlayEditor_wiring::shouldRefreshAPropertyOnceForOneSignal()
-{
-    openEditor("a2 b3 c4");
-    select({2, 3});
-    // the value of the first node, then each node's against it
-    service().setFontColor({2, 3}, Qt::red);
-    QCOMPARE(log().linesOf({"getFontColor"}),
-             (QStringList{"getFontColor 2", "getFontColor 2", "getFontColor 3"}));
-    QCOMPARE(log().count("getText"), 0);
-    log().clear();
-    service().setOffsetX({2, 3}, 5.0F);
-    QCOMPARE(log().count("getOffset"), 2 * 3);
-    service().setOffsetY({2, 3}, 7.0F);
-    QCOMPARE(log().count("getOffset"), 4 * 3);
-}
-
-void tst_kxOverlayEditor_wiring::shouldRefreshFromAnotherThread()
-{
-    openEditor("a2");
-    select({2});
-    service().node(2).text = "new";
-    std::thread other([this] { Q_EMIT service().textChanged({2}); });
-    other.join();
-    QCOMPARE(log().count("getText"), 0);
-    QTRY_COMPARE(window()._text_edit->toPlainText(), QString("new"));
 }
 
 KX_TEST_MAIN(tst_kxOverlayEditor_wiring)
