@@ -36,6 +36,14 @@ std::unique_ptr<QTextLayout> layOut(const QString &line, const QFont &font)
     return layout;
 }
 
+/// Unicode has separators of its own for lines and paragraphs; a layout ends its line at them.
+QStringList linesOf(QString text)
+{
+    text.replace(QChar::LineSeparator, QLatin1Char('\n'));
+    text.replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
+    return text.split(QLatin1Char('\n'));
+}
+
 double widthOf(const QTextLayout &line)
 {
     return line.lineCount() > 0 ? line.lineAt(0).horizontalAdvance() : 0.0;
@@ -48,7 +56,7 @@ TextBlock::TextBlock(const QString &text, const QString &family)
     const QFont font = referenceFont(family);
     m_lineHeight = QFontMetricsF(font).ascent() + QFontMetricsF(font).descent();
     double width = 0.0;
-    const QStringList lines = text.split(QLatin1Char('\n'));
+    const QStringList lines = linesOf(text);
     for (const QString &line : lines) {
         m_lines.push_back(layOut(line, font));
         width = std::max(width, widthOf(*m_lines.back()));

@@ -49,6 +49,7 @@ private Q_SLOTS:
     void shouldGiveALineTheStatedHeight_data();
     void shouldGiveALineTheStatedHeight();
     void shouldStackLinesOneHeightApart();
+    void shouldBreakLinesAtUnicodesSeparatorsToo();
     void shouldAlignLinesByTheAnchor_data();
     void shouldAlignLinesByTheAnchor();
     void shouldPutABoxBehindTheText();
@@ -191,6 +192,18 @@ void tst_OverlayPainter::shouldStackLinesOneHeightApart()
     QVERIFY(!first.isEmpty());
     QCOMPARE(second, first);
     QVERIFY(inkOf(image.copy(0, 60, 320, 120)).isEmpty());
+}
+
+void tst_OverlayPainter::shouldBreakLinesAtUnicodesSeparatorsToo()
+{
+    setUpText("a", "M\nM\nM", 30);
+    const QImage lines = drawn();
+    setUpText(
+        "a",
+        QString("M%1M%2M").arg(QChar(QChar::LineSeparator)).arg(QChar(QChar::ParagraphSeparator)),
+        30);
+    QCOMPARE(m_painter->boxOf(id("a"), {320, 180}, 72).height(), 90.0);
+    QCOMPARE(drawn(), lines);
 }
 
 void tst_OverlayPainter::shouldAlignLinesByTheAnchor_data()
