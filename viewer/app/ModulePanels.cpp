@@ -49,8 +49,12 @@ bool ModulePanels::add(const ModuleInfo &info, QWidget *content)
     // A checkable entry that also has an icon hides its check mark.
     toggle->setIconVisibleInMenu(false);
     connect(toggle, &QAction::triggered, panel, &QWidget::raise);
-    categoryMenu(info.category)->addAction(toggle);
+    QMenu *menu = categoryMenu(info.category);
+    menu->addAction(toggle);
     m_menu->setEnabled(true);
+    // A module that fails to start takes its window back.
+    connect(content, &QObject::destroyed, panel, &QObject::deleteLater);
+    connect(toggle, &QObject::destroyed, this, [this, menu] { tidy(menu); });
     return true;
 }
 
@@ -83,6 +87,14 @@ QMenu *ModulePanels::categoryMenu(const QString &category)
         QCoreApplication::translate("ModuleCategory", category.toUtf8().constData()));
     menu->setObjectName(name);
     return menu;
+}
+
+/// Takes the menu of a category away that has lost its last switch.
+void ModulePanels::tidy(QMenu *menu)
+{
+    if (menu->isEmpty())
+        delete menu;
+    m_menu->setEnabled(!m_menu->isEmpty());
 }
 
 QDockWidget *ModulePanels::makeDock(const ModuleInfo &info, QWidget *content)

@@ -33,7 +33,8 @@ public:
     /// The switches go into `menu`, one submenu for each category.
     ModulePanels(QMainWindow *window, QMenu *menu);
 
-    /// Docks a module's window on the right. False, and nothing happens, when the name is taken.
+    /// Docks a module's window on the right. False, and nothing happens, when the name is taken. The
+    /// panel goes with the window when somebody destroys that.
     bool add(const ModuleInfo &info, QWidget *content);
 
     /// The dock of a module; null for an unknown name.
@@ -48,6 +49,7 @@ public:
 
 private:
     QMenu *categoryMenu(const QString &category);
+    void tidy(QMenu *menu);
     QDockWidget *makeDock(const ModuleInfo &info, QWidget *content);
 
     QMainWindow *m_window;

@@ -81,6 +81,7 @@ private Q_SLOTS:
     void shouldShowAndHideAModuleFromTheMenu();
     void shouldKeepTheFirstOfTwoModulesOfOneName();
     void shouldSurviveARegistrationWithoutWindow();
+    void shouldTakeThePanelAwayWithTheModulesWindow();
     void shouldGiveThePanelItsUsualWidth();
     void shouldLeaveTheViewItsShareOfANarrowWindow();
     void shouldFitTheScreenWhereNothingIsRemembered();
@@ -174,6 +175,18 @@ void tst_MainWindow::shouldSurviveARegistrationWithoutWindow()
     MainWindowService orphan(nullptr);
     QCOMPARE(orphan.getMainWindow(), nullptr);
     orphan.registerModule("Editor", "Scene", &window, QString(), QIcon(), "Title", 0);
+}
+
+void tst_MainWindow::shouldTakeThePanelAwayWithTheModulesWindow()
+{
+    Window window;
+    delete window.add("Editor");
+    QTRY_VERIFY(!window.modulePanels()->dock("Editor"));
+    QVERIFY(!window.modules()->isEnabled());
+    window.add("Editor");
+    QVERIFY(window.modulePanels()->dock("Editor"));
+    QVERIFY(window.modules()->isEnabled());
+    QCOMPARE(textsOf(window.modules()), QStringList("Scene"));
 }
 
 void tst_MainWindow::shouldGiveThePanelItsUsualWidth()
