@@ -83,9 +83,10 @@ void drawChevron(const QStyleOption *option, QPainter *painter, const QRect &rec
 {
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(QPen(markOf(option), 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const qreal scale = qMax(1.0, option->fontMetrics.fontDpi() / 96.0);
+    painter->setPen(QPen(markOf(option), 1.4 * scale, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     const QPointF center = QRectF(rect).center();
-    const qreal half = qBound(2.0, qMin(rect.width(), rect.height()) * 0.22, 4.0);
+    const qreal half = qBound(2.0, qMin(rect.width(), rect.height()) * 0.22, 4.0 * scale);
     const qreal tip = up ? -half / 2 : half / 2;
     const QPointF points[] = {center + QPointF(-half, -tip), center + QPointF(0, tip),
                               center + QPointF(half, -tip)};
