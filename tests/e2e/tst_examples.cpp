@@ -4,8 +4,8 @@
 #include "tests/support/GraphicsDriver.h"
 #include "tests/support/KxTest.h"
 #include "tests/support/RealInput.h"
+#include "tests/viewer/app/OverlayPicture.h"
 #include "viewer/app/ModulePanels.h"
-#include "viewer/app/OverlayLayer.h"
 #include "viewer/app/ViewerSession.h"
 #include "viewer/app/Viewport.h"
 
@@ -56,15 +56,6 @@ int nodesBelow(OverlayService *service, QRPC::NodeId parent)
     return nodes;
 }
 
-QImage overlaysOf(const ViewerSession &session)
-{
-    auto *layer = session.window()->findChild<OverlayLayer *>();
-    QImage image(layer->size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    layer->render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
-    return image;
-}
-
 } // namespace
 
 void tst_examples::shouldShowEveryExampleAndFollowMouseAndKeys()
@@ -101,7 +92,7 @@ void tst_examples::showExample(const QString &file)
     const int nodes = nodesBelow(service, service->getRootNode());
     QVERIFY(nodes > 5);
     QCOMPARE(rowsBelow(m_tree->model(), {}), nodes);
-    QImage nothing = overlaysOf(*m_session);
+    QImage nothing = overlayPicture(*m_session);
     const QImage shown = nothing.copy();
     nothing.fill(Qt::transparent);
     QVERIFY(shown != nothing);

@@ -4,8 +4,8 @@
 #include "viewer/app/ViewerSession.h"
 
 #include "tests/support/KxTest.h"
+#include "tests/viewer/app/OverlayPicture.h"
 #include "viewer/app/ModulePanels.h"
-#include "viewer/app/OverlayLayer.h"
 
 #include <QDockWidget>
 #include <QPainter>
@@ -67,18 +67,9 @@ QStringList notices(const ViewerSession &session)
     return session.window()->viewArea()->notices()->texts();
 }
 
-QImage pictureOf(const ViewerSession &session)
-{
-    auto *layer = session.window()->findChild<OverlayLayer *>();
-    QImage image(layer->size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    layer->render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
-    return image;
-}
-
 QColor middleOf(const ViewerSession &session)
 {
-    const QImage picture = pictureOf(session);
+    const QImage picture = overlayPicture(session);
     return picture.pixelColor(picture.rect().center());
 }
 
@@ -172,7 +163,7 @@ void tst_ViewerSession::shouldDrawTheSamePixelsAsAnExport()
 {
     ViewerSession session(line({goodScene()}), nullptr);
     session.start();
-    const QImage shown = pictureOf(session);
+    const QImage shown = overlayPicture(session);
     QImage exported(shown.size(), QImage::Format_ARGB32_Premultiplied);
     exported.fill(Qt::transparent);
     ImageCache images;
