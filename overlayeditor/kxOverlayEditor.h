@@ -154,6 +154,7 @@ private:
     void deselect(const QModelIndexList &rows);
     void applySizeConstraints();
     void createSizeAndPositionView();
+    void takeRepeatedChoices();
     void registerShortcuts();
     bool handleKey(const QKeyEvent *event);
     bool isEditingName() const;

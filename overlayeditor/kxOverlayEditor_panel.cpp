@@ -7,6 +7,7 @@
 
 #include "host/kxIconManager.h"
 #include "overlayeditor/kxConnect.h"
+#include "overlayeditor/kxMultiselect.h"
 #include "overlayeditor/kxOverlayEditorGUIW.h"
 
 #include <QButtonGroup>
@@ -45,6 +46,7 @@ void kxOverlayEditor::createPropertiesView()
               SLOT(fontTransparencyChanged(float, float, float)));
 
     createSizeAndPositionView();
+    takeRepeatedChoices();
 
     setInputEnabled(false);
     m_window->_overlay_name->setEnabled(false);
@@ -83,6 +85,24 @@ void kxOverlayEditor::createSizeAndPositionView()
     m_window->_offset_y_spin_box->setRange(-limit, limit);
     kxConnect(m_window->_offset_y_spin_box, SIGNAL(valueChanged(double)), this,
               SLOT(offsetYChanged(double)));
+}
+
+/// A list box tells only of another choice. The one that it has is news too where it hides different
+/// values, and so is the family that stands in for a missing one.
+void kxOverlayEditor::takeRepeatedChoices()
+{
+    const QFontComboBox *fonts = m_window->_font_combo_box;
+    connect(fonts, &QComboBox::textActivated, this, [this, fonts](const QString &family) {
+        const QString current = fonts->currentFont().family();
+        if (kxMultiselect::isMarked(fonts) || family.compare(current, Qt::CaseInsensitive) != 0)
+            fontChanged(QFont(family));
+    });
+    const QComboBox *positions = m_window->_position_combo_box;
+    connect(positions, QOverload<int>::of(&QComboBox::activated), this,
+            [this, positions](int index) {
+                if (kxMultiselect::isMarked(positions))
+                    positionChanged(index);
+            });
 }
 
 void kxOverlayEditor::createImageEdit()

@@ -78,6 +78,16 @@ bool isSamePosition(const QPointF &left, const QPointF &right)
            && std::abs(left.y() - right.y()) <= tolerance;
 }
 
+/// Shows a family, installed or not; what is being typed stays as long as the family does.
+void showFamily(QFontComboBox *box, const QString &family)
+{
+    const bool isEdited = box->hasFocus() && box->currentFont().family() == family;
+    box->setCurrentFont(QFont(family, -1, -1, false));
+    // The box itself shows the row that stands in for a missing family.
+    if (!isEdited && box->currentText().compare(family, Qt::CaseInsensitive) != 0)
+        box->setEditText(family);
+}
+
 } // namespace
 
 bool kxOverlayEditor::shouldUpdate(const QRPC::NodeList &nodes, bool sameType)
@@ -182,9 +192,8 @@ void kxOverlayEditor::updateFont(const QRPC::NodeList &changed)
 {
     Q_UNUSED(changed)
     QFontComboBox *box = m_window->_font_combo_box;
-    updateTypeProperty<QString>(
-        this, box, &kxOverlayService::getFont,
-        [box](const QString &family) { box->setCurrentFont(QFont(family, -1, -1, false)); });
+    updateTypeProperty<QString>(this, box, &kxOverlayService::getFont,
+                                [box](const QString &family) { showFamily(box, family); });
 }
 
 void kxOverlayEditor::updateFontColor(const QRPC::NodeList &changed)
