@@ -39,7 +39,7 @@ void kxOverlayTreeView::dropEvent(QDropEvent *event)
     }
     const kxDropTrace trace(overlayModel());
     QTreeView::dropEvent(event);
-    overlayModel()->settle(trace);
+    overlayModel()->settle(trace, kxOverlayQtModel::Copies::Discard);
     selectDropped(trace);
 }
 

@@ -66,10 +66,16 @@ public:
     bool dropMimeData(const QMimeData *data, Qt::DropAction action, int row, int column,
                       const QModelIndex &parent) override;
 
+    /// What to do with the rows that the toolkit's drop has inserted.
+    enum class Copies {
+        Keep,    ///< they stand for rows that were dragged here and are gone
+        Discard, ///< they came from elsewhere, with whatever they looked like there
+    };
+
     /// Makes the rows that a drag has touched equal to the service again, mending only those that
     /// differ, so that expansion and selection elsewhere survive. Called by the view, once it has
     /// removed the rows that it takes for the dragged ones.
-    void settle(const kxDropTrace &trace);
+    void settle(const kxDropTrace &trace, Copies copies = Copies::Keep);
 
 Q_SIGNALS:
     /// The service was asked to move the nodes of a drop, and their rows are still where they were.

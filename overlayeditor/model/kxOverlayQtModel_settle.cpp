@@ -14,15 +14,19 @@
 #include <QPersistentModelIndex>
 #include <QVector>
 
-void kxOverlayQtModel::settle(const kxDropTrace &trace)
+void kxOverlayQtModel::settle(const kxDropTrace &trace, Copies copies)
 {
     // Mending one place may shift or remove rows of the next.
     const QModelIndexList rows = trace.insertedRows();
-    const QVector<QPersistentModelIndex> copies(rows.begin(), rows.end());
-    // Copies show what their rows showed when the drag began.
-    for (const QPersistentModelIndex &copy : copies) {
-        if (copy.isValid())
+    const QVector<QPersistentModelIndex> inserted(rows.begin(), rows.end());
+    for (const QPersistentModelIndex &copy : inserted) {
+        if (!copy.isValid())
+            continue;
+        // It shows what its row showed when the drag began.
+        if (copies == Copies::Keep)
             settleSubtree(itemFromIndex(copy));
+        else
+            removeRow(copy.row(), copy.parent());
     }
     const QModelIndexList parents = trace.touchedParents();
     const QVector<QPersistentModelIndex> remaining(parents.begin(), parents.end());
@@ -71,6 +75,9 @@ void kxOverlayQtModel::settleChildren(QStandardItem *parent)
     }
     if (parent->rowCount() > count)
         parent->removeRows(count, parent->rowCount() - count);
+    // Rows of a table make room for all their columns.
+    if (parent->columnCount() > 1)
+        parent->setColumnCount(1);
 }
 
 /// The item of a node that belongs at a row: from further down, from another parent, or new.

@@ -6,7 +6,6 @@
 #include "tests/support/RealInput.h"
 
 #include <QDropEvent>
-#include <QTimer>
 #include <QWidget>
 #include <QWindow>
 #include <QtTest>
@@ -15,7 +14,8 @@
 
 namespace {
 
-constexpr int patience = 15000;
+constexpr int patience = 5000;
+constexpr int nudgeInterval = 20;
 
 } // namespace
 
@@ -23,6 +23,7 @@ RealDrag::RealDrag(QWidget *target, Aim aim) : m_target(target), m_aim(std::move
 {
     // The window sees a drag that its widgets refuse; those do not.
     m_target->window()->windowHandle()->installEventFilter(this);
+    connect(&m_nudges, &QTimer::timeout, this, &RealDrag::nudge);
 }
 
 RealDrag::~RealDrag() = default;
@@ -57,6 +58,7 @@ void RealDrag::giveUp()
     qWarning("the drag got stuck in phase %d", int(m_phase));
     m_failed = true;
     m_phase = Phase::Over;
+    m_nudges.stop();
     realInput::key(QStringLiteral("Escape"));
     realInput::release();
 }
@@ -84,10 +86,17 @@ void RealDrag::leave()
 void RealDrag::approach()
 {
     m_phase = Phase::Approaching;
-    const QPoint aim = m_aim();
-    // A place that the mouse stands on already is not announced.
-    realInput::moveTo(*m_target, aim + QPoint(3, 0));
-    realInput::moveTo(*m_target, aim);
+    m_isBeside = false;
+    nudge();
+    m_nudges.start(nudgeInterval);
+}
+
+/// A place that the mouse stands on already is not announced, and another application leaves out
+/// moves as long as it waits for the answer to the one before. A hand never rests either.
+void RealDrag::nudge()
+{
+    m_isBeside = !m_isBeside;
+    realInput::moveTo(*m_target, m_aim() + QPoint(m_isBeside ? 3 : 0, 0));
 }
 
 void RealDrag::followWindowEvent(QEvent *event)
@@ -118,6 +127,7 @@ void RealDrag::noteArrival(const QPoint &place)
     if (m_phase != Phase::Approaching || place != aimInWindow())
         return;
     m_phase = Phase::Arrived;
+    m_nudges.stop();
     QTimer::singleShot(0, this, &RealDrag::arrive);
 }
 

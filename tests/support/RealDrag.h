@@ -5,6 +5,7 @@
 
 #include <QObject>
 #include <QPoint>
+#include <QTimer>
 
 #include <functional>
 
@@ -46,6 +47,7 @@ private:
     void giveUp();
     void leave();
     void approach();
+    void nudge();
     void followWindowEvent(QEvent *event);
     void noteArrival(const QPoint &place);
     void arrive();
@@ -57,5 +59,7 @@ private:
     std::function<void()> m_beforeDrop;
     Phase m_phase = Phase::Leaving;
     QPoint m_place; // where the mouse is, in the source while leaving it
+    QTimer m_nudges;
+    bool m_isBeside = false;
     bool m_failed = false;
 };
