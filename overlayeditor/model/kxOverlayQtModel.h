@@ -121,6 +121,7 @@ private:
     bool place(QStandardItem *item, QRPC::NodeId parentId, QRPC::NodeId afterId);
     void updateCheckState(QStandardItem *item, QRPC::NodeId id);
     void updateActiveStates(QVector<QStandardItem *> stack);
+    bool isInPlace(QStandardItem *item) const;
     void settleSubtree(QStandardItem *item);
     void settleChildren(QStandardItem *parent);
     QStandardItem *takeForRow(QStandardItem *parent, int row, QRPC::NodeId id);

@@ -22,11 +22,11 @@ void kxOverlayQtModel::settle(const kxDropTrace &trace, Copies copies)
     for (const QPersistentModelIndex &copy : inserted) {
         if (!copy.isValid())
             continue;
-        // It shows what its row showed when the drag began.
-        if (copies == Copies::Keep)
-            settleSubtree(itemFromIndex(copy));
-        else
+        // One that does not belong here would draw in what its node has elsewhere.
+        if (copies == Copies::Discard || !isInPlace(itemFromIndex(copy)))
             removeRow(copy.row(), copy.parent());
+        else
+            settleSubtree(itemFromIndex(copy));
     }
     const QModelIndexList parents = trace.touchedParents();
     const QVector<QPersistentModelIndex> remaining(parents.begin(), parents.end());
@@ -36,6 +36,11 @@ void kxOverlayQtModel::settle(const kxDropTrace &trace, Copies copies)
         if (isRoot || remaining.at(i).isValid())
             settleChildren(isRoot ? invisibleRootItem() : itemFromIndex(remaining.at(i)));
     }
+}
+
+bool kxOverlayQtModel::isInPlace(QStandardItem *item) const
+{
+    return itemFromId(kxService<kxOverlayService>()->getParent(getNodeId(item))) == getParent(item);
 }
 
 void kxOverlayQtModel::settleSubtree(QStandardItem *item)
@@ -64,23 +69,32 @@ void kxOverlayQtModel::settleChildren(QStandardItem *parent)
         nodes.append(kxService<kxOverlayService>()->getChild(parentId, i));
 
     QSet<QRPC::NodeId> missing(nodes.begin(), nodes.end());
-    for (int row = 0; row < count; ++row) {
+    for (int row = 0; row < nodes.size();) {
         const QRPC::NodeId id = nodes.at(row);
         // A row in the way that shows no node still to come is a ghost or a second copy.
         while (parent->rowCount() > row && !missing.contains(getNodeId(parent->child(row))))
             parent->removeRow(row);
-        if (row >= parent->rowCount() || getNodeId(parent->child(row)) != id)
-            parent->insertRow(row, takeForRow(parent, row, id));
         missing.remove(id);
+        if (row >= parent->rowCount() || getNodeId(parent->child(row)) != id) {
+            QStandardItem *item = takeForRow(parent, row, id);
+            if (!item) {
+                nodes.removeAt(row);
+                continue;
+            }
+            parent->insertRow(row, item);
+        }
+        ++row;
     }
-    if (parent->rowCount() > count)
-        parent->removeRows(count, parent->rowCount() - count);
+    if (parent->rowCount() > nodes.size())
+        parent->removeRows(nodes.size(), parent->rowCount() - nodes.size());
     // Rows of a table make room for all their columns.
     if (parent->columnCount() > 1)
         parent->setColumnCount(1);
 }
 
-/// The item of a node that belongs at a row: from further down, from another parent, or new.
+/// The item of a node that belongs at a row: from further down, from another parent, or new. Null
+/// where the node's row holds the parent, which only a service can bring about that moves more than
+/// it was asked to.
 QStandardItem *kxOverlayQtModel::takeForRow(QStandardItem *parent, int row, QRPC::NodeId id)
 {
     for (int other = row; other < parent->rowCount(); ++other) {
@@ -88,6 +102,10 @@ QStandardItem *kxOverlayQtModel::takeForRow(QStandardItem *parent, int row, QRPC
             return parent->takeRow(other).constFirst();
     }
     QStandardItem *item = obtainItem(id, Detached::Forget);
+    for (const QStandardItem *at = parent; at; at = at->parent()) {
+        if (at == item)
+            return nullptr;
+    }
     removeFromParent(item);
     kxOverlayItemIndex::the().setAttached(item);
     return item;

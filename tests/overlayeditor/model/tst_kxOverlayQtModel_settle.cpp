@@ -20,6 +20,9 @@ private Q_SLOTS:
     void shouldShowWhatChangedDuringTheDrag();
     void shouldBringBackARowThatWasNotDragged();
     void shouldDropASecondRowOfANodeThatStayed();
+    void shouldEndWhenARowShowsTheRoot();
+    void shouldEndWhenTheTargetMovesIntoWhatIsDropped();
+    void shouldRemoveCopiesThatCameFromElsewhere();
     void shouldMendNothingWhereNothingDiffers();
     void shouldLeaveRowsThatWereNotTouchedAlone();
     void shouldMendACopyWhoseRowHasShifted();
@@ -161,6 +164,54 @@ void tst_kxOverlayQtModel_settle::shouldDropASecondRowOfANodeThatStayed()
     fill("a2 b3 c4");
     dragAndDrop({2}, 1, 3, {});
     QCOMPARE(shown(), QString("b3 c4 a2"));
+}
+
+void tst_kxOverlayQtModel_settle::shouldEndWhenARowShowsTheRoot()
+{
+    fill("a2 g3(b4)");
+    const QPersistentModelIndex other = index(2);
+    QStandardItemModel elsewhere;
+    elsewhere.appendRow(new QStandardItem("root"));
+    elsewhere.item(0)->setData(1, idRole);
+    const std::unique_ptr<QMimeData> data(elsewhere.mimeData({elsewhere.index(0, 0)}));
+    const kxDropTrace trace(&model());
+    QVERIFY(model().dropMimeData(data.get(), Qt::MoveAction, -1, -1, index(3)));
+    model().settle(trace);
+    KX_COMPARE_TREE(model(), service());
+    QVERIFY(other.isValid());
+}
+
+void tst_kxOverlayQtModel_settle::shouldEndWhenTheTargetMovesIntoWhatIsDropped()
+{
+    fill("g2(h3(a4)) k5()");
+    service().setHook([this](const QString &) {
+        service().place(3, 1, -1);
+        service().place(5, 3, -1);
+        service().place(2, 5, -1);
+    });
+    dragAndDrop({5}, 3, -1);
+    service().setHook(nullptr);
+    // There is no telling what such a service wants next; the tree can be read anew.
+    Q_EMIT service().modelReset();
+    KX_COMPARE_TREE(model(), service());
+}
+
+void tst_kxOverlayQtModel_settle::shouldRemoveCopiesThatCameFromElsewhere()
+{
+    fill("a2 g3(b4)");
+    QStandardItem *const row = item(2);
+    QStandardItemModel elsewhere;
+    elsewhere.appendRow(new QStandardItem("not this name"));
+    elsewhere.item(0)->setData(2, idRole);
+    elsewhere.item(0)->setToolTip("nor this");
+    const std::unique_ptr<QMimeData> data(elsewhere.mimeData({elsewhere.index(0, 0)}));
+    data->setData("application/pimo-overlay-items", QByteArray::fromHex("0000000200000001"));
+    const kxDropTrace trace(&model());
+    QVERIFY(model().dropMimeData(data.get(), Qt::MoveAction, -1, -1, index(3)));
+    model().settle(trace, kxOverlayQtModel::Copies::Discard);
+    KX_COMPARE_TREE(model(), service());
+    QCOMPARE(shown(), QString("g3(b4 a2)"));
+    QCOMPARE(item(2), row);
 }
 
 void tst_kxOverlayQtModel_settle::shouldMendNothingWhereNothingDiffers()
