@@ -151,6 +151,7 @@ public:
     /// @name Property writes
     /// Each writes one value to every listed node, for which the matching getter states meaning and
     /// unit, and announces the nodes that changed. Nodes that do not have the property are skipped.
+    /// Values outside the stated range are stored as given; whoever draws them copes.
     /// Called by modules, with the whole selection.
     /// @{
 
@@ -190,7 +191,8 @@ Q_SIGNALS:
     /// before, which may be in the same operation.
     void nodesCreated(const QRPC::NodeList &nodes);
 
-    /// The tops of new subtrees, ascending by row within one parent.
+    /// The tops of new subtrees, ascending by row within one parent: modules place a node behind the
+    /// siblings that they know, so that another order shows another order.
     void nodesAdded(const QRPC::NodeList &nodes);
 
     /// Nodes that are gone; only the tops of the removed subtrees need be listed.

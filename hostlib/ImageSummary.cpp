@@ -7,6 +7,8 @@
 #include <QImageReader>
 #include <QLocale>
 
+static constexpr qint64 MostPixels = 256LL << 20; // 1 GB
+
 static qint64 bytesOf(const QFileInfo &file)
 {
     return file.isFile() ? file.size() : -1;
@@ -33,7 +35,10 @@ void hostlib::ImageSummary::read(const QSize &bounds)
     // Many formats can leave pixels out while they read, which is faster than scaling afterwards.
     if (m_pixels.width() > bounds.width() || m_pixels.height() > bounds.height())
         reader.setScaledSize(m_pixels.scaled(bounds, Qt::KeepAspectRatio).expandedTo({1, 1}));
-    m_picture = reader.read();
+    // A small file can claim more pixels than there is memory, which some formats read whole.
+    const bool isReadWhole = !reader.supportsOption(QImageIOHandler::ScaledSize);
+    if (!isReadWhole || qint64(m_pixels.width()) * m_pixels.height() <= MostPixels)
+        m_picture = reader.read();
     m_state = m_picture.isNull() ? Unreadable : Readable;
     if (m_state == Unreadable)
         m_pixels = {};

@@ -15,7 +15,6 @@
 #include "overlayeditor/kxServices.h"
 #include "overlayeditor/model/kxOverlayQtModel.h"
 
-#include <QSet>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -124,21 +123,11 @@ void kxOverlayEditor::nodesRemovedUpdate(const QRPC::NodeList &nodeList)
 /// the panel, and the rows leave one by one.
 void kxOverlayEditor::deselect(const QModelIndexList &rows)
 {
-    const QSet<QModelIndex> leaving(rows.begin(), rows.end());
-    const QModelIndexList selected = m_treeView->selectionModel()->selectedIndexes();
-    QItemSelection remaining;
-    int count = 0;
-    for (const QModelIndex &index : selected) {
-        QModelIndex ancestor = index;
-        while (ancestor.isValid() && !leaving.contains(ancestor))
-            ancestor = ancestor.parent();
-        if (ancestor.isValid())
-            continue;
-        kxSelectionRanges::append(&remaining, index);
-        ++count;
-    }
-    if (count < selected.size())
-        m_treeView->selectionModel()->select(remaining, QItemSelectionModel::ClearAndSelect);
+    QItemSelectionModel *selectionModel = m_treeView->selectionModel();
+    const QModelIndexList selected = selectionModel->selectedIndexes();
+    const QItemSelection remaining = kxSelectionRanges::outside(selected, rows);
+    if (remaining.indexes().size() < selected.size())
+        selectionModel->select(remaining, QItemSelectionModel::ClearAndSelect);
 }
 
 void kxOverlayEditor::selectAll()

@@ -82,3 +82,25 @@ QItemSelection kxSelectionRanges::subtract(const QItemSelection &all, const QIte
     }
     return rest;
 }
+
+QItemSelection kxSelectionRanges::outside(const QModelIndexList &indexes,
+                                          const QModelIndexList &tops)
+{
+    // Each row is climbed from once: chains of selected rows share their ancestors.
+    QHash<QModelIndex, bool> lies;
+    for (const QModelIndex &top : tops)
+        lies.insert(top, true);
+    QItemSelection rest;
+    for (const QModelIndex &index : indexes) {
+        QModelIndexList path;
+        QModelIndex at = index;
+        for (; at.isValid() && !lies.contains(at); at = at.parent())
+            path.append(at);
+        const bool inside = lies.value(at, false);
+        for (const QModelIndex &step : qAsConst(path))
+            lies.insert(step, inside);
+        if (!inside)
+            append(&rest, index);
+    }
+    return rest;
+}

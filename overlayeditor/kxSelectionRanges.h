@@ -15,4 +15,7 @@ void append(QItemSelection *selection, const QModelIndex &index);
 /// The rows of `all` that are not in `removed`, in the order of `all`.
 QItemSelection subtract(const QItemSelection &all, const QItemSelection &removed);
 
+/// The rows of `indexes`, in their order, that neither are nor lie in one of `tops`.
+QItemSelection outside(const QModelIndexList &indexes, const QModelIndexList &tops);
+
 } // namespace kxSelectionRanges

@@ -6,6 +6,24 @@
 
 #include <QStandardItemModel>
 
+namespace {
+
+/// Counts how often a row's parent is asked for.
+class ClimbCountingModel : public QStandardItemModel
+{
+public:
+    QModelIndex parent(const QModelIndex &child) const override
+    {
+        ++climbs;
+        return QStandardItemModel::parent(child);
+    }
+    using QObject::parent;
+
+    mutable int climbs = 0;
+};
+
+} // namespace
+
 class tst_kxSelectionRanges : public KxTest
 {
     Q_OBJECT
@@ -20,6 +38,8 @@ private Q_SLOTS:
     void shouldSubtractRows();
     void shouldSubtractWithinEachParent();
     void shouldEqualWhatTheSelectionModelDeselects();
+    void shouldKeepTheRowsOutsideOfOthers();
+    void shouldClimbFromEachRowOnce();
 
 private:
     QModelIndex row(int row, int parent = -1) const;
@@ -169,6 +189,30 @@ void tst_kxSelectionRanges::shouldEqualWhatTheSelectionModelDeselects()
     QCOMPARE(QSet<QModelIndex>(rest.begin(), rest.end()),
              QSet<QModelIndex>(expected.begin(), expected.end()));
     QCOMPARE(rest.size(), expected.size());
+}
+
+void tst_kxSelectionRanges::shouldKeepTheRowsOutsideOfOthers()
+{
+    const QModelIndexList indexes{row(4), row(2), row(3, 2), row(3, 5), row(5), row(6)};
+    QCOMPARE(dump(kxSelectionRanges::outside(indexes, {row(2), row(5)})), QStringLiteral("4 6"));
+    QCOMPARE(dump(kxSelectionRanges::outside(indexes, {row(3, 2)})), QStringLiteral("4 2 5/3 5-6"));
+    QCOMPARE(dump(kxSelectionRanges::outside(indexes, {})), QStringLiteral("4 2 2/3 5/3 5-6"));
+}
+
+void tst_kxSelectionRanges::shouldClimbFromEachRowOnce()
+{
+    ClimbCountingModel model;
+    QModelIndexList chain;
+    QStandardItem *item = model.invisibleRootItem();
+    for (int level = 0; level < 500; ++level) {
+        auto *child = new QStandardItem;
+        item->appendRow(child);
+        item = child;
+        chain.prepend(item->index());
+    }
+    model.climbs = 0;
+    QVERIFY(kxSelectionRanges::outside(chain, {chain.last()}).isEmpty());
+    QVERIFY2(model.climbs < 4 * chain.size(), qPrintable(QString::number(model.climbs)));
 }
 
 KX_TEST_MAIN(tst_kxSelectionRanges)

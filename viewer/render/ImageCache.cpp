@@ -12,11 +12,27 @@ namespace {
 
 constexpr int ScalableHeight = 1024; // drawings without pixels are read this high
 constexpr int LargestWidth = 8192;
+constexpr int LargestSide = 32767;         // of a picture that the raster engine can draw
+constexpr qint64 MostPixels = 256LL << 20; // 1 GB, for formats that are read whole
 constexpr int KeptSizes = 8;
 
 bool hasNoPixels(const QImageReader &reader)
 {
     return reader.format().startsWith("svg");
+}
+
+// A small file can claim more pixels than there is memory.
+bool isTooLarge(const QImageReader &reader)
+{
+    const QSize size = reader.size();
+    const bool isReadWhole = !reader.supportsOption(QImageIOHandler::ScaledSize);
+    return size.width() > LargestSide || size.height() > LargestSide
+           || (isReadWhole && qint64(size.width()) * size.height() > MostPixels);
+}
+
+bool isLarge(const QSize &size)
+{
+    return size.width() > LargestWidth || size.height() > LargestWidth;
 }
 
 QImage readImage(const QString &path)
@@ -26,9 +42,13 @@ QImage readImage(const QString &path)
         return {};
     QImageReader reader(path);
     reader.setAutoTransform(true);
-    if (hasNoPixels(reader) && !reader.size().isEmpty())
-        reader.setScaledSize(
-            reader.size().scaled(LargestWidth, ScalableHeight, Qt::KeepAspectRatio));
+    const QSize size = reader.size();
+    if (hasNoPixels(reader) && !size.isEmpty())
+        reader.setScaledSize(size.scaled(LargestWidth, ScalableHeight, Qt::KeepAspectRatio));
+    else if (isTooLarge(reader))
+        return {};
+    else if (isLarge(size))
+        reader.setScaledSize(size.scaled(LargestWidth, LargestWidth, Qt::KeepAspectRatio));
     return reader.read().convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 

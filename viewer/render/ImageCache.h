@@ -16,7 +16,8 @@ namespace viewer {
 class ImageCache
 {
 public:
-    /// The picture; a null image when the file is missing or cannot be read.
+    /// The picture; a null image when the file is missing, cannot be read or is larger than memory
+    /// and painter can bear. A picture of more than 8192 pixels in a direction is read smaller.
     QImage image(const QString &path);
 
     /// The picture in exactly this size. The last few sizes of each file are kept.

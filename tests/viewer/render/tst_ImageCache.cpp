@@ -20,6 +20,8 @@ private Q_SLOTS:
     void shouldReadEverythingAnewAfterForgettingAll();
     void shouldRememberThatAFileIsMissing();
     void shouldNotWaitForAPipe();
+    void shouldBoundThePixelsOfAFile_data();
+    void shouldBoundThePixelsOfAFile();
     void shouldScaleOnceForEachSize();
     void shouldReadDrawingsLarge();
 
@@ -85,6 +87,31 @@ void tst_ImageCache::shouldNotWaitForAPipe()
     QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     ImageCache cache;
     QVERIFY(cache.image(pipe).isNull());
+}
+
+void tst_ImageCache::shouldBoundThePixelsOfAFile_data()
+{
+    QTest::addColumn<QSize>("stored");
+    QTest::addColumn<QSize>("read");
+    QTest::newRow("usual") << QSize(8192, 4) << QSize(8192, 4);
+    QTest::newRow("large") << QSize(16384, 64) << QSize(8192, 32);
+    QTest::newRow("high") << QSize(64, 16384) << QSize(32, 8192);
+    QTest::newRow("wider than can be drawn") << QSize(32768, 1) << QSize();
+    QTest::newRow("higher than can be drawn") << QSize(1, 32768) << QSize();
+}
+
+void tst_ImageCache::shouldBoundThePixelsOfAFile()
+{
+    QFETCH(QSize, stored);
+    QFETCH(QSize, read);
+    QImage image(stored, QImage::Format_Mono);
+    image.fill(1);
+    const QString path = m_folder.filePath("large.png");
+    QVERIFY(image.save(path));
+    ImageCache cache;
+    QCOMPARE(cache.image(path).isNull(), !read.isValid());
+    if (read.isValid())
+        QCOMPARE(cache.image(path).size(), read);
 }
 
 void tst_ImageCache::shouldScaleOnceForEachSize()
