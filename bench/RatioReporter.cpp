@@ -35,7 +35,10 @@ void RatioReporter::ReportRuns(const std::vector<Run> &runs)
         if (std::find(m_order.begin(), m_order.end(), row) == m_order.end())
             m_order.push_back(row);
         Times &times = m_rows[row][std::stoi(parts.at(2))];
-        (parts.at(3) == "module" ? times.module : times.floor) = run.GetAdjustedRealTime();
+        double &best = parts.at(3) == "module" ? times.module : times.floor;
+        if (run.run_type == Run::RT_Iteration)
+            best =
+                best > 0.0 ? std::min(best, run.GetAdjustedRealTime()) : run.GetAdjustedRealTime();
     }
     std::fprintf(stderr, ".");
 }

@@ -9,7 +9,8 @@
 #include <string>
 
 /// Prints a Markdown table of the module beside its floor, one row an operation and shape, one
-/// column a size, with the ratio of the two and the growth between the two largest sizes.
+/// column a size, with the ratio of the two and the growth between the two largest sizes. Of several
+/// repetitions the fastest counts, which other work on the machine has disturbed least.
 ///
 /// Names of benchmarks are "operation|shape and view|size|who", where who is "module" or "floor".
 class RatioReporter : public benchmark::BenchmarkReporter

@@ -116,7 +116,8 @@ void registerCase(const Operation &operation, Shape shape, int size, bool shown)
                                      })
             ->UseManualTime()
             ->Unit(benchmark::kMillisecond)
-            ->MinTime(0.2);
+            ->MinTime(0.05)
+            ->Repetitions(3);
     }
 }
 
