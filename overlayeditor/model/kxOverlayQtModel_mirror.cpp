@@ -177,7 +177,8 @@ void kxOverlayQtModel::nodesRemovedUpdate(const QRPC::NodeList &list)
             rows.append(item->index());
     }
     Q_EMIT nodesAboutToGo(rows);
-    for (QStandardItem *item : inOrderOfRemoval(items))
+    const QVector<QStandardItem *> ordered = inOrderOfRemoval(items);
+    for (QStandardItem *item : ordered)
         removeFromParent(item);
 }
 
