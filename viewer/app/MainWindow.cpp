@@ -4,8 +4,10 @@
 #include "viewer/app/MainWindow.h"
 
 #include "host/kxIconManager.h"
+#include "viewer/app/KeyList.h"
 #include "viewer/app/ModulePanels.h"
 #include "viewer/app/Scaled.h"
+#include "viewer/app/ShortcutsDialog.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -51,6 +53,7 @@ MainWindow::MainWindow(ViewArea::Background background) : m_viewArea(new ViewAre
     setCentralWidget(m_viewArea);
     setDockNestingEnabled(true);
     createFileMenu();
+    createEditMenu();
     createViewMenu();
     createModulesMenu();
     createHelpMenu();
@@ -133,6 +136,12 @@ void MainWindow::createFileMenu()
     quit->setMenuRole(QAction::QuitRole);
 }
 
+void MainWindow::createEditMenu()
+{
+    m_editMenu = menuBar()->addMenu(tr("&Edit"));
+    m_editMenu->setObjectName(QStringLiteral("edit"));
+}
+
 void MainWindow::createViewMenu()
 {
     QMenu *menu = menuBar()->addMenu(tr("&View"));
@@ -161,6 +170,10 @@ void MainWindow::createModulesMenu()
 void MainWindow::createHelpMenu()
 {
     QMenu *menu = menuBar()->addMenu(tr("&Help"));
+    QAction *shortcuts =
+        menu->addAction(tr("&Keyboard Shortcuts…"), this, &MainWindow::showShortcuts);
+    shortcuts->setObjectName(QStringLiteral("keyboardShortcutsEntry"));
+    menu->addSeparator();
     QAction *about = menu->addAction(tr("&About %1").arg(QApplication::applicationDisplayName()),
                                      this, &MainWindow::showAbout);
     about->setMenuRole(QAction::AboutRole);
@@ -188,6 +201,25 @@ void MainWindow::toggleFullScreen(bool on)
 {
     setWindowState(on ? windowState() | Qt::WindowFullScreen
                       : windowState() & ~Qt::WindowFullScreen);
+}
+
+QVector<kxShortcut::Entry> MainWindow::ownKeys() const
+{
+    return menuKeys(*menuBar(), QApplication::applicationDisplayName());
+}
+
+void MainWindow::reportKeyClashes()
+{
+    const QStringList clashes = keyClashes(ownKeys(), kxShortcut::registeredKeys());
+    if (!clashes.isEmpty())
+        notify(Severity::Warning, clashes.join(QLatin1Char('\n')));
+}
+
+void MainWindow::showShortcuts()
+{
+    auto *dialog = new ShortcutsDialog(ownKeys() + kxShortcut::registeredKeys(), this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->show();
 }
 
 void MainWindow::showAbout()

@@ -3,12 +3,14 @@
 
 #pragma once
 
+#include "host/kxShortcut.h"
 #include "viewer/app/NoticeArea.h"
 #include "viewer/app/ViewArea.h"
 
 #include <QMainWindow>
 
 class QLabel;
+class QMenu;
 class QSettings;
 
 namespace viewer {
@@ -28,6 +30,13 @@ public:
 
     ViewArea *viewArea() const { return m_viewArea; }
     ModulePanels *modulePanels() const { return m_panels; }
+
+    /// Takes what edits the scene; the window itself does not.
+    QMenu *editMenu() const { return m_editMenu; }
+
+    /// Tells the user of keys that stand for a command of the menus and for one of a module. To be
+    /// called once all modules are loaded.
+    void reportKeyClashes();
 
     /// Names the open scene in the title; an empty path for none.
     void setScenePath(const QString &path);
@@ -59,16 +68,20 @@ protected:
 
 private:
     void createFileMenu();
+    void createEditMenu();
     void createViewMenu();
     void createModulesMenu();
     void createHelpMenu();
     void createStatusBar();
     void chooseScene();
     void toggleFullScreen(bool on);
+    QVector<kxShortcut::Entry> ownKeys() const;
+    void showShortcuts();
     void showAbout();
 
     ViewArea *m_viewArea;
     ModulePanels *m_panels = nullptr;
+    QMenu *m_editMenu = nullptr;
     QAction *m_fullScreen = nullptr;
     QLabel *m_backgroundLabel = nullptr;
     QString m_scenePath;

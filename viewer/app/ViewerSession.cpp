@@ -4,6 +4,7 @@
 #include "viewer/app/ViewerSession.h"
 
 #include "viewer/app/ModuleLoader.h"
+#include "viewer/app/MoveActions.h"
 #include "viewer/app/OverlayLayer.h"
 #include "viewer/app/Screenshot.h"
 #include "viewer/scene/SceneReader.h"
@@ -42,6 +43,7 @@ ViewerSession::ViewerSession(const CommandLine &line, QSettings *settings)
     , m_services(m_window.get())
 {
     showOverlays();
+    new MoveActions(overlays(), m_window->editMenu());
     connect(m_window.get(), &MainWindow::openRequested, this, [this](const QString &file) {
         m_window->viewArea()->notices()->clear();
         openScene(file);
@@ -70,6 +72,7 @@ void ViewerSession::start()
     if (m_line.scene.isEmpty() || !openScene(m_line.scene))
         overlays()->setScene(Scene());
     m_services.announceReady();
+    m_window->reportKeyClashes();
     if (!m_line.screenshot.isEmpty())
         takePictureAndQuit();
 }

@@ -1,0 +1,251 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "host/kxShortcut.h"
+#include "host/kxStyle.h"
+#include "tests/support/KxTest.h"
+#include "tests/support/RealDrag.h"
+#include "tests/support/RealInput.h"
+#include "viewer/app/ViewerSession.h"
+
+#include <QDialog>
+#include <QLineEdit>
+#include <QMenu>
+#include <QTreeView>
+#include <QTreeWidget>
+
+using namespace viewer;
+
+/// Nodes rearranged in the running viewer, by keys and by mouse, with the plug-in's tree and the
+/// viewer's own service. One test function, because the editor of a process is created once.
+class tst_viewer_reorder : public KxTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void shouldRearrangeTheScene();
+
+private:
+    void moveByKey();
+    void moveFromTheMenu();
+    void leaveTheKeysToOthers();
+    void dragRows();
+    void listShortcuts();
+
+    QModelIndex rowOf(const QString &name) const;
+    void click(const QString &name, const QStringList &held = {});
+    void drag(const QString &name, const QString &onto);
+    QStringList topRows() const;
+    QStringList selectedNames() const;
+    QString treeOf(const QModelIndex &parent) const;
+    QString sceneOf(QRPC::NodeId parent) const;
+    QString difference() const;
+
+    ViewerSession *m_session = nullptr;
+    QTreeView *m_tree = nullptr;
+};
+
+void tst_viewer_reorder::initTestCase()
+{
+    QApplication::setStyle(new kxStyle);
+}
+
+QModelIndex tst_viewer_reorder::rowOf(const QString &name) const
+{
+    return m_tree->model()
+        ->match(m_tree->model()->index(0, 0), Qt::DisplayRole, name, 1,
+                Qt::MatchExactly | Qt::MatchRecursive)
+        .value(0);
+}
+
+void tst_viewer_reorder::click(const QString &name, const QStringList &held)
+{
+    realInput::click(*m_tree->viewport(), m_tree->visualRect(rowOf(name)).center(), held);
+    QTRY_VERIFY(selectedNames().contains(name));
+}
+
+void tst_viewer_reorder::drag(const QString &name, const QString &onto)
+{
+    RealDrag drag(m_tree->viewport(), [=] { return m_tree->visualRect(rowOf(onto)).center(); });
+    const QRect row = m_tree->visualRect(rowOf(name));
+    QVERIFY(drag.runFrom(m_tree->viewport(), QPoint(row.left() + 30, row.center().y())));
+    QCoreApplication::processEvents();
+    QCOMPARE(difference(), QString());
+}
+
+QStringList tst_viewer_reorder::topRows() const
+{
+    QStringList names;
+    for (int row = 0; row < m_tree->model()->rowCount(); ++row)
+        names.append(m_tree->model()->index(row, 0).data().toString());
+    return names;
+}
+
+QStringList tst_viewer_reorder::selectedNames() const
+{
+    QStringList names;
+    const QModelIndexList indexes = m_tree->selectionModel()->selectedIndexes();
+    for (const QModelIndex &index : indexes)
+        names.append(index.data().toString());
+    return names;
+}
+
+QString tst_viewer_reorder::treeOf(const QModelIndex &parent) const
+{
+    QString line;
+    for (int row = 0; row < m_tree->model()->rowCount(parent); ++row) {
+        const QModelIndex index = m_tree->model()->index(row, 0, parent);
+        line += QString("%1 %2 %3 %4(%5)")
+                    .arg(index.data(Qt::UserRole + 1).toUInt())
+                    .arg(index.data().toString())
+                    .arg(index.data(Qt::CheckStateRole).toInt() == Qt::Checked)
+                    .arg(index.data(Qt::UserRole + 2).toBool())
+                    .arg(treeOf(index));
+    }
+    return line;
+}
+
+QString tst_viewer_reorder::sceneOf(QRPC::NodeId parent) const
+{
+    OverlayService &service = *m_session->overlays();
+    QString line;
+    for (int row = 0; row < service.getChildCount(parent); ++row) {
+        const QRPC::NodeId node = service.getChild(parent, row);
+        line += QString("%1 %2 %3 %4(%5)")
+                    .arg(node)
+                    .arg(service.getName(node))
+                    .arg(service.isEnabled(node))
+                    .arg(service.isActive(node))
+                    .arg(sceneOf(node));
+    }
+    return line;
+}
+
+/// Both trees, where they are not the same.
+QString tst_viewer_reorder::difference() const
+{
+    const QString shown = treeOf(QModelIndex());
+    const QString wanted = sceneOf(m_session->overlays()->getRootNode());
+    return shown == wanted ? QString() : shown + '\n' + wanted;
+}
+
+void tst_viewer_reorder::shouldRearrangeTheScene()
+{
+    const CommandLine line(
+        {"overlay-viewer", EXAMPLES "/title_sheet.json", "--plugin", EDITOR_PLUGIN});
+    ViewerSession session(line, nullptr);
+    m_session = &session;
+    session.start();
+    m_tree = session.window()->findChild<QTreeView *>();
+    QVERIFY(m_tree);
+    QVERIFY(QTest::qWaitForWindowActive(session.window()));
+    QCOMPARE(session.window()->viewArea()->notices()->texts(), QStringList());
+
+    moveByKey();
+    moveFromTheMenu();
+    leaveTheKeysToOthers();
+    dragRows();
+    listShortcuts();
+}
+
+void tst_viewer_reorder::moveByKey()
+{
+    QCOMPARE(topRows(), (QStringList{"Shade", "Heading", "Credits", "Brand", "Draft", "Guides"}));
+    click("Draft");
+    realInput::key("alt+Up");
+    QTRY_COMPARE(topRows().indexOf("Draft"), 3);
+    realInput::key("alt+Up");
+    QTRY_COMPARE(topRows().indexOf("Draft"), 2);
+    QCOMPARE(selectedNames(), QStringList{"Draft"});
+    QCOMPARE(m_tree->currentIndex(), rowOf("Draft"));
+    realInput::key("alt+Down");
+    QTRY_COMPARE(topRows().indexOf("Draft"), 3);
+    QCOMPARE(difference(), QString());
+
+    // Credits stands above it and takes it in; the selection goes with it.
+    m_tree->expand(rowOf("Heading"));
+    realInput::key("alt+Right");
+    QTRY_COMPARE(rowOf("Draft").parent(), rowOf("Credits"));
+    QCOMPARE(selectedNames(), QStringList{"Draft"});
+    QVERIFY(m_tree->isExpanded(rowOf("Credits")));
+    realInput::key("alt+Left");
+    QTRY_COMPARE(rowOf("Draft").parent(), QModelIndex());
+    QCOMPARE(topRows(), (QStringList{"Shade", "Heading", "Credits", "Draft", "Brand", "Guides"}));
+    QCOMPARE(selectedNames(), QStringList{"Draft"});
+    QCOMPARE(difference(), QString());
+}
+
+void tst_viewer_reorder::moveFromTheMenu()
+{
+    click("Shade");
+    click("Draft", {"ctrl"});
+    realInput::key("alt+e");
+    QTRY_VERIFY(QApplication::activePopupWidget());
+    realInput::key("d");
+    QTRY_COMPARE(topRows(),
+                 (QStringList{"Heading", "Credits", "Brand", "Shade", "Draft", "Guides"}));
+    QCOMPARE(selectedNames(), (QStringList{"Shade", "Draft"}));
+    QCOMPARE(difference(), QString());
+}
+
+/// The same keys mean other things in other widgets.
+void tst_viewer_reorder::leaveTheKeysToOthers()
+{
+    const auto *up = m_session->window()->findChild<QAction *>("moveUp");
+    QVERIFY(up->isEnabled());
+    realInput::key("ctrl+f");
+    QTRY_VERIFY(qobject_cast<QLineEdit *>(QApplication::focusWidget()));
+    QVERIFY(!up->isEnabled());
+    realInput::key("Down");
+    QTRY_COMPARE(QApplication::focusWidget(), static_cast<QWidget *>(m_tree));
+    QVERIFY(up->isEnabled());
+    realInput::key("ctrl+r");
+    QTRY_VERIFY(qobject_cast<QLineEdit *>(QApplication::focusWidget()));
+    QVERIFY(!up->isEnabled());
+    const QStringList before = topRows();
+    realInput::key("alt+Up");
+    realInput::key("Escape");
+    QTRY_COMPARE(QApplication::focusWidget(), static_cast<QWidget *>(m_tree));
+    QCOMPARE(topRows(), before);
+}
+
+void tst_viewer_reorder::dragRows()
+{
+    click("Shade");
+    drag("Shade", "Credits");
+    QCOMPARE(rowOf("Shade").parent(), rowOf("Credits"));
+    QCOMPARE(selectedNames(), QStringList{"Shade"});
+    click("Guides");
+    click("Brand", {"ctrl"});
+    drag("Brand", "Heading");
+    QCOMPARE(rowOf("Brand").parent(), rowOf("Heading"));
+    QCOMPARE(rowOf("Guides").parent(), rowOf("Heading"));
+    click("Credits");
+    drag("Credits", "Heading");
+    m_tree->expandAll();
+    QCOMPARE(difference(), QString());
+}
+
+void tst_viewer_reorder::listShortcuts()
+{
+    m_session->window()->findChild<QAction *>("keyboardShortcutsEntry")->trigger();
+    auto *dialog = m_session->window()->findChild<QDialog *>("keyboardShortcuts");
+    QVERIFY(dialog);
+    QVERIFY(QTest::qWaitForWindowActive(dialog));
+    auto *list = dialog->findChild<QTreeWidget *>();
+    QCOMPARE(list->topLevelItemCount(), 2);
+    QCOMPARE(list->topLevelItem(1)->text(0), QString("Overlay Editor"));
+    QCOMPARE(list->topLevelItem(1)->childCount(), kxShortcut::registeredKeys().size());
+    for (const char *key : {"d", "u", "p", "l"})
+        realInput::key(key);
+    QTRY_VERIFY(list->topLevelItem(0)->isHidden());
+    QCOMPARE(list->topLevelItem(1)->isHidden(), false);
+    const QPointer<QDialog> open(dialog);
+    realInput::key("Escape");
+    realInput::key("Escape");
+    QTRY_VERIFY(!open);
+}
+
+KX_TEST_MAIN(tst_viewer_reorder)
+#include "tst_viewer_reorder.moc"

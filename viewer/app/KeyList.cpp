@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "viewer/app/KeyList.h"
+
+#include <QCoreApplication>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace viewer {
+
+namespace {
+
+constexpr int Modifiers = int(Qt::KeyboardModifierMask);
+
+QString plainText(const QAction &action)
+{
+    return action.text().remove(QLatin1Char('&')).remove(QStringLiteral("…"));
+}
+
+void addKeys(const QList<QAction *> &actions, const QString &category,
+             QVector<kxShortcut::Entry> *keys)
+{
+    for (const QAction *action : actions) {
+        if (action->menu())
+            addKeys(action->menu()->actions(), category, keys);
+        const QList<QKeySequence> sequences = action->shortcuts();
+        for (const QKeySequence &sequence : sequences) {
+            // A key pressed after another one is no clash with a single one.
+            if (sequence.count() == 1) {
+                keys->append({category, sequence[0] & ~Modifiers, sequence[0] & Modifiers,
+                              plainText(*action)});
+            }
+        }
+    }
+}
+
+} // namespace
+
+QVector<kxShortcut::Entry> menuKeys(const QMenuBar &menuBar, const QString &category)
+{
+    QVector<kxShortcut::Entry> keys;
+    addKeys(menuBar.actions(), category, &keys);
+    return keys;
+}
+
+QStringList keyClashes(const QVector<kxShortcut::Entry> &own,
+                       const QVector<kxShortcut::Entry> &registered)
+{
+    QStringList clashes;
+    for (const kxShortcut::Entry &key : own) {
+        for (const kxShortcut::Entry &other : registered) {
+            if (key.key != other.key || key.modifiers != other.modifiers)
+                continue;
+            clashes.append(QCoreApplication::translate(
+                               "KeyList", "The key %1 stands for \"%2\" of the menu and for \"%3\" "
+                                          "of the module %4.")
+                               .arg(kxShortcut::convertKey(key.key, key.modifiers, false),
+                                    key.description, other.description, other.category));
+        }
+    }
+    return clashes;
+}
+
+} // namespace viewer

@@ -1,0 +1,107 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "viewer/app/NodeView.h"
+
+#include <QHash>
+#include <QTreeView>
+
+#include <functional>
+
+namespace viewer {
+
+namespace {
+
+constexpr int NodeIdRole = Qt::UserRole + 1;
+
+QRPC::NodeId nodeOf(const QModelIndex &index)
+{
+    return index.data(NodeIdRole).toUInt();
+}
+
+void visitRows(const QAbstractItemModel &model,
+               const std::function<void(const QModelIndex &)> &visit)
+{
+    QModelIndexList parents{QModelIndex()};
+    while (!parents.isEmpty()) {
+        const QModelIndex parent = parents.takeLast();
+        for (int row = 0; row < model.rowCount(parent); ++row) {
+            const QModelIndex index = model.index(row, 0, parent);
+            visit(index);
+            if (model.hasChildren(index))
+                parents.append(index);
+        }
+    }
+}
+
+} // namespace
+
+NodeView::NodeView(QWidget *widget)
+{
+    auto *view = qobject_cast<QAbstractItemView *>(widget);
+    if (view && view->model() && nodeOf(view->model()->index(0, 0)) != 0)
+        m_view = view;
+}
+
+QRPC::NodeList NodeView::selectedNodes() const
+{
+    QRPC::NodeList nodes;
+    if (!m_view)
+        return nodes;
+    const QModelIndexList indexes = m_view->selectionModel()->selectedIndexes();
+    for (const QModelIndex &index : indexes) {
+        if (nodeOf(index) != 0)
+            nodes.append(nodeOf(index));
+    }
+    return nodes;
+}
+
+QRPC::NodeList NodeView::openNodes() const
+{
+    QRPC::NodeList nodes;
+    if (const auto *tree = qobject_cast<QTreeView *>(m_view)) {
+        visitRows(*tree->model(), [&](const QModelIndex &index) {
+            if (tree->isExpanded(index))
+                nodes.append(nodeOf(index));
+        });
+    }
+    return nodes;
+}
+
+void NodeView::open(const QRPC::NodeList &nodes)
+{
+    auto *tree = qobject_cast<QTreeView *>(m_view);
+    if (!tree)
+        return;
+    const QModelIndexList rows = rowsOf(nodes);
+    for (const QModelIndex &row : rows)
+        tree->expand(row);
+}
+
+void NodeView::select(const QRPC::NodeList &nodes)
+{
+    if (!m_view)
+        return;
+    QItemSelection selection;
+    const QModelIndexList rows = rowsOf(nodes);
+    for (const QModelIndex &row : rows)
+        selection.select(row, row);
+    m_view->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    m_view->selectionModel()->setCurrentIndex(rows.value(0), QItemSelectionModel::NoUpdate);
+}
+
+/// The rows of nodes, in the order of the list.
+QModelIndexList NodeView::rowsOf(const QRPC::NodeList &nodes) const
+{
+    QHash<QRPC::NodeId, QModelIndex> found;
+    visitRows(*m_view->model(),
+              [&found](const QModelIndex &index) { found.insert(nodeOf(index), index); });
+    QModelIndexList rows;
+    for (const QRPC::NodeId node : nodes) {
+        if (found.contains(node))
+            rows.append(found.value(node));
+    }
+    return rows;
+}
+
+} // namespace viewer

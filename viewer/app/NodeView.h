@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "host/QRPC.h"
+
+#include <QModelIndexList>
+#include <QPointer>
+
+class QAbstractItemView;
+class QWidget;
+
+namespace viewer {
+
+/// An item view of some module whose rows show nodes of the overlay service, as the host sees it.
+///
+/// Modules tell the host nothing about their selections. But a row that shows a node carries its id
+/// under the agreed role, and a view has a selection model, so that a command of the host can act
+/// on what the user has selected in the view where the focus is, whichever module made it. A small
+/// value; the view may go at any time. GUI thread only.
+class NodeView
+{
+public:
+    NodeView() = default;
+
+    /// The view that a widget is; none when it is not one whose rows carry node ids.
+    explicit NodeView(QWidget *widget);
+
+    bool isNull() const { return m_view.isNull(); }
+
+    /// The nodes of the selected rows, in the order in which they were selected.
+    QRPC::NodeList selectedNodes() const;
+
+    /// The nodes of all open rows of a tree.
+    QRPC::NodeList openNodes() const;
+
+    /// Opens the rows of nodes, where the view is a tree.
+    void open(const QRPC::NodeList &nodes);
+
+    /// Makes the rows of nodes the selection and brings the first into view.
+    void select(const QRPC::NodeList &nodes);
+
+private:
+    QModelIndexList rowsOf(const QRPC::NodeList &nodes) const;
+
+    QPointer<QAbstractItemView> m_view;
+};
+
+} // namespace viewer

@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "viewer/app/ShortcutsDialog.h"
+
+#include "host/QKXSearchBox.h"
+
+#include <QDialogButtonBox>
+#include <QHash>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace viewer {
+
+ShortcutsDialog::ShortcutsDialog(const QVector<kxShortcut::Entry> &keys, QWidget *parent)
+    : QDialog(parent)
+    , m_search(new QKXSearchBox(this))
+    , m_list(new QTreeWidget(this))
+    , m_count(new QLabel(this))
+{
+    setObjectName(QStringLiteral("keyboardShortcuts"));
+    setWindowTitle(tr("Keyboard Shortcuts"));
+    m_list->setHeaderLabels({tr("Command"), tr("Key")});
+    m_list->setAccessibleName(tr("Keyboard shortcuts"));
+    m_list->setUniformRowHeights(true);
+    m_list->setAlternatingRowColors(true);
+    fill(keys);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    // Return in the search box goes on to the list.
+    buttons->button(QDialogButtonBox::Close)->setAutoDefault(false);
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(m_search);
+    layout->addWidget(m_list);
+    layout->addWidget(m_count);
+    layout->addWidget(buttons);
+    connect(m_search, &QKXSearchBox::searchChanged, this, &ShortcutsDialog::filter);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    filter(QString());
+    m_search->setFocus();
+    resize(sizeHint().expandedTo(fontMetrics().averageCharWidth() * QSize(60, 70)));
+}
+
+void ShortcutsDialog::fill(const QVector<kxShortcut::Entry> &keys)
+{
+    QHash<QString, QTreeWidgetItem *> categories;
+    for (const kxShortcut::Entry &key : keys) {
+        QTreeWidgetItem *&category = categories[key.category];
+        if (!category) {
+            category = new QTreeWidgetItem(m_list, {key.category});
+            category->setFirstColumnSpanned(true);
+            category->setExpanded(true);
+            QFont bold = font();
+            bold.setBold(true);
+            category->setFont(0, bold);
+        }
+        new QTreeWidgetItem(
+            category, {key.description, kxShortcut::convertKey(key.key, key.modifiers, false)});
+    }
+    m_list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    m_list->header()->setStretchLastSection(false);
+    m_list->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+}
+
+void ShortcutsDialog::filter(const QString &text)
+{
+    const auto matches = [&text](const QTreeWidgetItem &item, int column) {
+        return item.text(column).contains(text, Qt::CaseInsensitive);
+    };
+    int shown = 0;
+    for (int i = 0; i < m_list->topLevelItemCount(); ++i) {
+        QTreeWidgetItem *category = m_list->topLevelItem(i);
+        int shownHere = 0;
+        for (int row = 0; row < category->childCount(); ++row) {
+            QTreeWidgetItem *key = category->child(row);
+            const bool matching = matches(*category, 0) || matches(*key, 0) || matches(*key, 1);
+            key->setHidden(!matching);
+            shownHere += matching ? 1 : 0;
+        }
+        category->setHidden(shownHere == 0);
+        shown += shownHere;
+    }
+    m_count->setText(shown > 0 ? tr("%n shortcut(s)", nullptr, shown) : tr("No shortcut matches."));
+}
+
+} // namespace viewer
