@@ -82,7 +82,7 @@ void ShortcutsDialog::filter(const QString &text)
         category->setHidden(shownHere == 0);
         shown += shownHere;
     }
-    m_count->setText(shown > 0 ? tr("%n shortcut(s)", nullptr, shown) : tr("No shortcut matches."));
+    m_count->setText(shown > 0 ? tr("Shortcuts shown: %1").arg(shown) : tr("No shortcut matches."));
 }
 
 } // namespace viewer
