@@ -148,7 +148,7 @@ QString tst_kxOverlayEditor_script::changeOutside()
 QString tst_kxOverlayEditor_script::filter()
 {
     const QStringList texts{"", "", "e", "o1", "[a-f]", "*", "nothing of that name"};
-    const QString text = texts.at(int(random(texts.size())));
+    const QString &text = texts.at(int(random(texts.size())));
     static_cast<QLineEdit &>(searchBox()).setText(text);
     return "filter " + text;
 }

@@ -11,10 +11,10 @@ namespace viewer {
 
 MoveActions::MoveActions(kxOverlayService *service, QMenu *menu) : QObject(menu), m_service(service)
 {
-    add(menu, MoveStep::Up, tr("Move &Up"), "moveUp", Qt::ALT | Qt::Key_Up);
-    add(menu, MoveStep::Down, tr("Move &Down"), "moveDown", Qt::ALT | Qt::Key_Down);
-    add(menu, MoveStep::In, tr("Move &In"), "moveIn", Qt::ALT | Qt::Key_Right);
-    add(menu, MoveStep::Out, tr("Move &Out"), "moveOut", Qt::ALT | Qt::Key_Left);
+    add(menu, MoveStep::Up, tr("Move &Up"), "moveUp", Qt::ALT + Qt::Key_Up);
+    add(menu, MoveStep::Down, tr("Move &Down"), "moveDown", Qt::ALT + Qt::Key_Down);
+    add(menu, MoveStep::In, tr("Move &In"), "moveIn", Qt::ALT + Qt::Key_Right);
+    add(menu, MoveStep::Out, tr("Move &Out"), "moveOut", Qt::ALT + Qt::Key_Left);
     connect(qApp, &QApplication::focusChanged, this, &MoveActions::followFocus);
     // A view without rows does not tell yet what it shows.
     connect(service, &kxOverlayService::modelReset, this, &MoveActions::refresh,
