@@ -167,11 +167,13 @@ void tst_kxOverlayEditor_naming::shouldSendNothingInAWalkThroughThePanel()
     focus(field());
     log().clear();
     QSet<QWidget *> visited;
-    do {
+    for (int step = 0; step < 100 && (step == 0 || !field().hasFocus()); ++step) {
+        QVERIFY(QApplication::focusWidget());
         visited.insert(QApplication::focusWidget());
         press(Qt::Key(key));
-    } while (!field().hasFocus() && visited.size() < 100);
-    QVERIFY(visited.size() > 8 && visited.size() < 100);
+    }
+    QVERIFY(field().hasFocus());
+    QVERIFY(visited.size() > 8);
     QVERIFY(visited.contains(window()._position_combo_box));
     QCOMPARE(writes(), QStringList());
 }
@@ -203,11 +205,9 @@ void tst_kxOverlayEditor_naming::shouldSendWhatWasTypedAcrossARefresh()
     type("ne");
     service().setName({3}, "other");
     QCOMPARE(field().text(), QString("ne"));
-    QCOMPARE(commandsOf([] {
-                 type("w");
-                 press(Qt::Key_Tab);
-             }),
-             QStringList("setName [2,3] \"new\""));
+    type("w");
+    service().setName({3}, "another");
+    QCOMPARE(commandsOf([] { press(Qt::Key_Tab); }), QStringList("setName [2,3] \"new\""));
 }
 
 void tst_kxOverlayEditor_naming::shouldProtectAgainAfterARename()
