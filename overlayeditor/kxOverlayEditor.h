@@ -10,6 +10,8 @@
 #include <QObject>
 #include <QString>
 
+#include <optional>
+
 class QKXSearchBox;
 class QKeyEvent;
 class QMenu;
@@ -69,6 +71,10 @@ public:
 
     /// Shows the properties of the whole selection.
     void updateAll();
+
+    /// The nodes that a refresh shows: the selection, which a full refresh reads once for all of its
+    /// parts.
+    QRPC::NodeList refreshedNodes() const;
 
     /// Enables or disables all controls that edit overlays. The name, the image and the tree have
     /// rules of their own.
@@ -165,4 +171,5 @@ private:
     QTreeView *m_treeView = nullptr;
     QKXSearchBox *m_searchBox = nullptr;
     QMenu *m_contextMenu = nullptr;
+    std::optional<QRPC::NodeList> m_refreshedNodes; ///< while a full refresh runs
 };

@@ -14,6 +14,7 @@
 #include "overlayeditor/kxOverlayEditorGUIW.h"
 #include "overlayeditor/kxServices.h"
 
+#include <QScopeGuard>
 #include <QSignalBlocker>
 
 #include <cmath>
@@ -51,7 +52,7 @@ void updateTypeProperty(kxOverlayEditor *editor, QWidget *control,
                         T (kxOverlayService::*getter)(QRPC::NodeId),
                         const std::function<void(T)> &setter)
 {
-    const QRPC::NodeList nodes = editor->getSelectedNodes();
+    const QRPC::NodeList nodes = editor->refreshedNodes();
     if (editor->shouldUpdate(nodes, true))
         updateControl<T>(control, nodes, read(getter), setter);
 }
@@ -99,9 +100,17 @@ bool kxOverlayEditor::shouldUpdate(const QRPC::NodeList &nodes, bool sameType)
     return kxCommonValue<int>(nodes, read(&kxOverlayService::getOverlayType)).has_value();
 }
 
+QRPC::NodeList kxOverlayEditor::refreshedNodes() const
+{
+    return m_refreshedNodes ? *m_refreshedNodes : getSelectedNodes();
+}
+
 void kxOverlayEditor::updateAll()
 {
+    // A dozen parts of one refresh: reading a large selection takes as long as asking its service.
     const QRPC::NodeList nodes = getSelectedNodes();
+    m_refreshedNodes = nodes;
+    const auto finished = qScopeGuard([this] { m_refreshedNodes.reset(); });
     const bool hasNonOverlay = containsGroup(nodes);
     setInputEnabled(!hasNonOverlay && !nodes.isEmpty());
     m_window->_overlay_name->setEnabled(!nodes.isEmpty());
@@ -132,7 +141,7 @@ void kxOverlayEditor::updateAll()
 void kxOverlayEditor::updateName(const QRPC::NodeList &changed)
 {
     Q_UNUSED(changed)
-    const QRPC::NodeList nodes = getSelectedNodes();
+    const QRPC::NodeList nodes = refreshedNodes();
     if (nodes.isEmpty())
         return;
     QLineEdit *name = m_window->_overlay_name;
@@ -146,7 +155,7 @@ void kxOverlayEditor::updateName(const QRPC::NodeList &changed)
 void kxOverlayEditor::updateOverlayType(const QRPC::NodeList &changed)
 {
     Q_UNUSED(changed)
-    const QRPC::NodeList nodes = getSelectedNodes();
+    const QRPC::NodeList nodes = refreshedNodes();
     if (nodes.isEmpty())
         return;
     updateControl<bool>(m_window->_text_radio_button, nodes, isText, [this](bool text) {
@@ -217,7 +226,7 @@ void kxOverlayEditor::updateBackgroundTransparency(const QRPC::NodeList &changed
 void kxOverlayEditor::updateImage(const QRPC::NodeList &changed)
 {
     Q_UNUSED(changed)
-    const QRPC::NodeList nodes = getSelectedNodes();
+    const QRPC::NodeList nodes = refreshedNodes();
     if (!shouldUpdate(nodes, true))
         return;
     QKXTextureControls *controls = m_window->_image_edit;
@@ -228,7 +237,7 @@ void kxOverlayEditor::updateImage(const QRPC::NodeList &changed)
 
 void kxOverlayEditor::updateSizeType(const QRPC::NodeList &changed)
 {
-    const QRPC::NodeList nodes = getSelectedNodes();
+    const QRPC::NodeList nodes = refreshedNodes();
     if (!shouldUpdate(nodes, false))
         return;
     const auto isAbsolute = [](QRPC::NodeId node) {
@@ -244,7 +253,7 @@ void kxOverlayEditor::updateSizeType(const QRPC::NodeList &changed)
 void kxOverlayEditor::updateSize(const QRPC::NodeList &changed)
 {
     Q_UNUSED(changed)
-    const QRPC::NodeList nodes = getSelectedNodes();
+    const QRPC::NodeList nodes = refreshedNodes();
     if (!shouldUpdate(nodes, false))
         return;
     QKXSlider *slider = m_window->_size_slider;
@@ -270,7 +279,7 @@ void kxOverlayEditor::updateSize(const QRPC::NodeList &changed)
 void kxOverlayEditor::updatePosition(const QRPC::NodeList &changed)
 {
     Q_UNUSED(changed)
-    const QRPC::NodeList nodes = getSelectedNodes();
+    const QRPC::NodeList nodes = refreshedNodes();
     if (!shouldUpdate(nodes, false))
         return;
     QComboBox *positions = m_window->_position_combo_box;
@@ -286,7 +295,7 @@ void kxOverlayEditor::updatePosition(const QRPC::NodeList &changed)
 void kxOverlayEditor::updateOffset(const QRPC::NodeList &changed)
 {
     Q_UNUSED(changed)
-    const QRPC::NodeList nodes = getSelectedNodes();
+    const QRPC::NodeList nodes = refreshedNodes();
     if (!shouldUpdate(nodes, false))
         return;
     const struct

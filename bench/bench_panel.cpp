@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+// How long the property panel needs to show a whole selection anew, beside the questions that it has
+// to ask the service for it, asked bare in the same run.
+
+#include "bench/RatioReporter.h"
+#include "bench/TreeCase.h"
+#include "host/kxKernelServiceFactory.h"
+#include "overlayeditor/kxOverlayEditor.h"
+#include "overlayeditor/kxOverlayEditorGUIW.h"
+#include "tests/support/HostFixture.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+
+#include <functional>
+#include <string>
+
+namespace {
+
+/// The seconds that `work` takes.
+double secondsOf(const std::function<void()> &work)
+{
+    QElapsedTimer timer;
+    timer.start();
+    work();
+    return double(timer.nsecsElapsed()) * 1e-9;
+}
+
+/// One question to each node, each through the registry as a module asks; `repeats` times.
+template<class T>
+void ask(T (kxOverlayService::*getter)(QRPC::NodeId), const QRPC::NodeList &nodes, int repeats)
+{
+    for (int i = 0; i < repeats; ++i) {
+        for (const QRPC::NodeId node : nodes) {
+            auto *service = kxKernelServiceFactory::the()->getService<kxOverlayService>();
+            benchmark::DoNotOptimize((service->*getter)(node));
+        }
+    }
+}
+
+/// The questions of a full refresh for texts that are equal in everything.
+void askAll(const QRPC::NodeList &nodes)
+{
+    using S = kxOverlayService;
+    ask(&S::isOverlay, nodes, 11);
+    ask(&S::getOverlayType, nodes, 7);
+    ask(&S::getName, nodes, 1);
+    ask(&S::getText, nodes, 1);
+    ask(&S::getFont, nodes, 1);
+    ask(&S::getFontColor, nodes, 1);
+    ask(&S::getBackgroundColor, nodes, 1);
+    ask(&S::getBackgroundTransparency, nodes, 1);
+    ask(&S::getSizeType, nodes, 1);
+    ask(&S::getSize, nodes, 2);
+    ask(&S::getPosition, nodes, 1);
+    ask(&S::getOffset, nodes, 2);
+}
+
+/// A host and the viewer's service with overlays that are equal in everything.
+struct PanelCase
+{
+    explicit PanelCase(int size) : tree(Shape::Flat, size)
+    {
+        tree.service()->setName(tree.allNodes(), QStringLiteral("Overlay"));
+    }
+
+    HostFixture host;
+    TreeCase tree;
+};
+
+void runModule(benchmark::State &state, int size)
+{
+    PanelCase panel(size);
+    kxOverlayEditor editor;
+    Q_EMIT panel.tree.service()->modelReset();
+    QMetaObject::invokeMethod(&editor, "selectAll");
+    for ([[maybe_unused]] auto iteration : state)
+        state.SetIterationTime(secondsOf([&] { editor.updateAll(); }));
+}
+
+void runFloor(benchmark::State &state, int size)
+{
+    const PanelCase panel(size);
+    for ([[maybe_unused]] auto iteration : state)
+        state.SetIterationTime(secondsOf([&] { askAll(panel.tree.allNodes()); }));
+}
+
+void registerCase(int size)
+{
+    const std::string name = "full refresh|equal texts|" + std::to_string(size) + '|';
+    using Run = void (*)(benchmark::State &, int);
+    const std::pair<const char *, Run> sides[] = {{"module", runModule}, {"floor", runFloor}};
+    for (const auto &side : sides) {
+        benchmark::RegisterBenchmark(
+            (name + side.first).c_str(),
+            [size, run = side.second](benchmark::State &state) { run(state, size); })
+            ->UseManualTime()
+            ->Unit(benchmark::kMillisecond)
+            ->MinTime(0.2);
+    }
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    for (const int size : {1000, 10000})
+        registerCase(size);
+    RatioReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    return 0;
+}
