@@ -31,6 +31,31 @@ QStringList compare(const char *getter, const QRPC::NodeList &nodes)
     return walk(getter, nodes.mid(0, 1)) + walk(getter, nodes);
 }
 
+/// Does something once, as soon as a widget becomes enabled.
+class OnEnabled : public QObject
+{
+public:
+    OnEnabled(QWidget *watched, std::function<void()> act)
+        : m_watched(watched)
+        , m_act(std::move(act))
+    {
+        watched->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() != QEvent::EnabledChange || !m_watched->isEnabled())
+            return false;
+        m_watched->removeEventFilter(this);
+        m_act();
+        return false;
+    }
+
+private:
+    QWidget *m_watched;
+    std::function<void()> m_act;
+};
+
 constexpr double noNumber = std::numeric_limits<double>::quiet_NaN();
 
 } // namespace
@@ -61,6 +86,7 @@ private Q_SLOTS:
     void shouldShowNoAnchorForAnotherPosition();
     void shouldMarkOffsetsSeparately_data();
     void shouldMarkOffsetsSeparately();
+    void shouldShowTheSelectionThatARefreshEndsWith();
     void shouldCountCallsByTheSelection_data();
     void shouldCountCallsByTheSelection();
 
@@ -345,6 +371,21 @@ void tst_kxOverlayEditor_refresh::shouldMarkOffsetsSeparately()
     QCOMPARE(isMarked(*window()._offset_y_spin_box), other.y() != 2.0);
     QCOMPARE(window()._offset_x_spin_box->value(), 1.0);
     QCOMPARE(window()._offset_y_spin_box->value(), 2.0);
+}
+
+/// Whoever watches a control of the panel may change the selection from there.
+void tst_kxOverlayEditor_refresh::shouldShowTheSelectionThatARefreshEndsWith()
+{
+    openEditor("a2 b3");
+    node(2).text = "first";
+    node(3).text = "second";
+    const OnEnabled watcher(window()._text_edit, [this] {
+        tree().selectionModel()->select(index(3), QItemSelectionModel::ClearAndSelect);
+    });
+    tree().selectionModel()->select(index(2), QItemSelectionModel::ClearAndSelect);
+    QCOMPARE(window()._overlay_name->text(), QString("b3"));
+    QCOMPARE(window()._text_edit->toPlainText(), QString("second"));
+    QVERIFY(!isMarked(*window()._text_edit));
 }
 
 void tst_kxOverlayEditor_refresh::shouldCountCallsByTheSelection_data()
