@@ -34,7 +34,8 @@ void kxDropTrace::noteInsertion(const QModelIndex &parent, int first, int last)
 void kxDropTrace::noteParent(const QModelIndex &parent)
 {
     if (!parent.isValid()) {
-        m_rootTouched = true;
+        if (m_rootAt < 0)
+            m_rootAt = m_parents.size();
     } else if (!m_known.contains(parent)) {
         m_known.insert(parent);
         m_parents.append(parent);
@@ -54,11 +55,11 @@ QModelIndexList kxDropTrace::insertedRows() const
 QModelIndexList kxDropTrace::touchedParents() const
 {
     QModelIndexList parents;
-    if (m_rootTouched)
-        parents.append(QModelIndex());
-    for (const QPersistentModelIndex &parent : m_parents) {
-        if (parent.isValid())
-            parents.append(parent);
+    for (int i = 0; i <= m_parents.size(); ++i) {
+        if (i == m_rootAt)
+            parents.append(QModelIndex());
+        if (i < m_parents.size() && m_parents.at(i).isValid())
+            parents.append(m_parents.at(i));
     }
     return parents;
 }

@@ -29,8 +29,9 @@ public:
     /// Rows that were inserted and are still there.
     QModelIndexList insertedRows() const;
 
-    /// Parents that lost or gained rows, or nodes of a drop, and are still there; an invalid index
-    /// stands for the root.
+    /// Parents that lost or gained rows, or nodes of a drop, and are still there, in the order of
+    /// their first change: the target of a drop comes before the places that its nodes came from. An
+    /// invalid index stands for the root.
     QModelIndexList touchedParents() const;
 
 private:
@@ -43,5 +44,5 @@ private:
     QVector<QPersistentModelIndex> m_inserted;
     QVector<QPersistentModelIndex> m_parents; // in the order of their first change
     QSet<QPersistentModelIndex> m_known;      // the same
-    bool m_rootTouched = false;
+    int m_rootAt = -1;                        // the root's place among them; -1 for none
 };

@@ -14,6 +14,7 @@
 namespace {
 
 constexpr QPoint sourcePlace(1800, 1100);
+constexpr int patience = 20000;
 const auto overlayItems = QStringLiteral("application/pimo-overlay-items");
 const auto treeItems = QStringLiteral("application/pimo-overlaytree-items");
 
@@ -94,7 +95,7 @@ QString tst_kxOverlayEditor_foreignDrops::dropFromElsewhere(const Payload &paylo
                                           QString::number(sourcePlace.y()), QString(action)}
                                   + payload.arguments);
     const auto tells = [&source](const char *state) {
-        return QTest::qWaitFor([&source] { return source.canReadLine(); })
+        return QTest::qWaitFor([&source] { return source.canReadLine(); }, patience)
                && source.readLine() == QByteArray(state) + '\n';
     };
     if (!tells("ready"))
@@ -107,7 +108,7 @@ QString tst_kxOverlayEditor_foreignDrops::dropFromElsewhere(const Payload &paylo
     RealDrag drag(tree().viewport(), [=] { return placeOf(target, edge); });
     const bool arrived = drag.runFromElsewhere();
     QString told = QStringLiteral("the drag did not arrive");
-    if (arrived && QTest::qWaitFor([&source] { return source.canReadLine(); }))
+    if (arrived && QTest::qWaitFor([&source] { return source.canReadLine(); }, patience))
         told = QString::fromLatin1(source.readLine()).trimmed();
     // It has to be there as long as its data may be asked for.
     QCoreApplication::processEvents();

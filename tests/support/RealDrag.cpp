@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr int patience = 5000;
+constexpr int patience = 20000; // milliseconds; a sanitized program on a busy machine is slow
 constexpr int nudgeInterval = 20;
 
 } // namespace
