@@ -18,7 +18,8 @@ QString text(const QKXColorManipulator *control)
     return control->color().toColor().name();
 }
 
-QVector<PanelProperty> allProperties()
+// One table, long as it has a row for each property.
+QVector<PanelProperty> allProperties() // NOLINT(readability-function-size)
 {
     using P = PanelProperty;
     using S = kxOverlayService;
