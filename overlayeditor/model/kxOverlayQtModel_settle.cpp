@@ -82,6 +82,8 @@ void kxOverlayQtModel::settleChildren(QStandardItem *parent)
                 continue;
             }
             parent->insertRow(row, item);
+            // It shows what it was in its old place.
+            settleSubtree(item);
         }
         ++row;
     }
