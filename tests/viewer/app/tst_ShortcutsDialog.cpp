@@ -15,11 +15,14 @@ using namespace viewer;
 
 namespace {
 
-const QVector<kxShortcut::Entry> someKeys{
-    {"Overlays", Qt::Key_D, Qt::ControlModifier, "Duplicate Overlay"},
-    {"Overlays", Qt::Key_F, Qt::ControlModifier, "Find Overlay"},
-    {"Lights", Qt::Key_D, Qt::ControlModifier | Qt::ShiftModifier, "Dim"},
-};
+QVector<kxShortcut::Entry> someKeys()
+{
+    return {
+        {"Overlays", Qt::Key_D, Qt::ControlModifier, "Duplicate Overlay"},
+        {"Overlays", Qt::Key_F, Qt::ControlModifier, "Find Overlay"},
+        {"Lights", Qt::Key_D, Qt::ControlModifier | Qt::ShiftModifier, "Dim"},
+    };
+}
 
 /// The rows that are not hidden, each category with its own in brackets.
 QStringList rowsOf(const ShortcutsDialog &dialog)
@@ -56,7 +59,7 @@ private Q_SLOTS:
 
 void tst_ShortcutsDialog::shouldListKeysByCategory()
 {
-    const ShortcutsDialog dialog(someKeys);
+    const ShortcutsDialog dialog(someKeys());
     QCOMPARE(rowsOf(dialog),
              (QStringList{"Overlays (Duplicate Overlay Ctrl+D, Find Overlay Ctrl+F)",
                           "Lights (Dim Ctrl+Shift+D)"}));
@@ -79,7 +82,7 @@ void tst_ShortcutsDialog::shouldFindByCommandKeyOrCategory()
 {
     QFETCH(QString, text);
     QFETCH(QStringList, found);
-    const ShortcutsDialog dialog(someKeys);
+    const ShortcutsDialog dialog(someKeys());
     dialog.findChild<QKXSearchBox *>()->setText(text);
     QCOMPARE(rowsOf(dialog), found);
     const QString count = dialog.findChild<QLabel *>()->text();
@@ -111,7 +114,7 @@ void tst_ShortcutsDialog::shouldNameClashes()
         {"Viewer", Qt::Key_D, Qt::NoModifier, "Draw"},
         {"Viewer", Qt::Key_F, Qt::ControlModifier, "Full Screen"},
     };
-    QCOMPARE(keyClashes(own, someKeys),
+    QCOMPARE(keyClashes(own, someKeys()),
              QStringList{"The key Ctrl+F stands for \"Full Screen\" of the menu and for "
                          "\"Find Overlay\" of the module Overlays."});
 }
