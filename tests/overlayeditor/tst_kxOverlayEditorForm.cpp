@@ -173,7 +173,8 @@ void tst_kxOverlayEditorForm::shouldDeclareItsMembersInOrder()
 
 void tst_kxOverlayEditorForm::shouldBuildEveryMemberWithItsClass()
 {
-    for (const Member &member : membersOf(*m_form)) {
+    const QVector<Member> members = membersOf(*m_form);
+    for (const Member &member : members) {
         QVERIFY2(member.object, member.name);
         QCOMPARE(member.object->objectName(), QString(member.name));
         QCOMPARE(QByteArray(member.object->metaObject()->className()),
@@ -183,7 +184,8 @@ void tst_kxOverlayEditorForm::shouldBuildEveryMemberWithItsClass()
 
 void tst_kxOverlayEditorForm::shouldGiveEveryMemberItsParent()
 {
-    for (const Member &member : membersOf(*m_form)) {
+    const QVector<Member> members = membersOf(*m_form);
+    for (const Member &member : members) {
         const QByteArray parent = member.parent;
         const QObject *actual = member.object->parent();
         QVERIFY2(actual, member.name);
@@ -219,7 +221,8 @@ void tst_kxOverlayEditorForm::shouldPlaceMembersInTheirCells()
 {
     const QList<QGridLayout *> grids{m_form->gridLayout, m_form->gridLayout_2,
                                      m_form->gridLayout_4};
-    for (const Member &member : membersOf(*m_form)) {
+    const QVector<Member> members = membersOf(*m_form);
+    for (const Member &member : members) {
         const QVector<int> wanted =
             member.row < 0 ? QVector<int>() : QVector<int>{member.row, member.column, 1, 1};
         QVERIFY2(cellOf(member.object, grids) == wanted, member.name);

@@ -284,7 +284,7 @@ void tst_kxOverlayEditor_lifecycle::shouldOnlyTellWhenShownThroughItsOwnType()
 {
     openEditor();
     QSignalSpy told(&window(), SIGNAL(show()));
-    window().show();
+    Q_EMIT window().show();
     QCOMPARE(told.count(), 1);
     QVERIFY(!window().isVisible());
 }

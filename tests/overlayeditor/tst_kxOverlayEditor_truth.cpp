@@ -33,7 +33,7 @@ void fillPool(const RecordingService &service)
     }
     node(4).text = "other\ntext";
     node(4).font = "DejaVu Serif";
-    node(4).fontColor = "#336699";
+    node(4).fontColor = QColor(0x33, 0x66, 0x99);
     node(4).backgroundColor = QColor(10, 20, 30, 40);
     node(4).transparency = Qt::gray;
     node(4).offset = {1.5, 0.0};

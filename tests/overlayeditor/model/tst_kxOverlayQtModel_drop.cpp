@@ -126,7 +126,7 @@ void tst_kxOverlayQtModel_drop::shouldLeaveOutRowsWithoutANode()
 void tst_kxOverlayQtModel_drop::shouldCarryTheEncodingOfTheBase()
 {
     fill("a2");
-    const QString base = QStandardItemModel().mimeTypes().first();
+    const QString base = QStandardItemModel().mimeTypes().constFirst();
     QVERIFY(drag({2})->hasFormat(base));
     QVERIFY(!drag({2})->data(base).isEmpty());
 }

@@ -135,7 +135,8 @@ void tst_kxOverlayQtModel_edits::shouldSendAnEditThatItsOwnRowCauses()
 {
     fill("a2 b3");
     QMetaObject::Connection connection;
-    connection = connect(&model(), &QAbstractItemModel::dataChanged, this, [&] {
+    const QObject listener;
+    connection = connect(&model(), &QAbstractItemModel::dataChanged, &listener, [&] {
         disconnect(connection);
         model().setData(index(3), "y3", Qt::EditRole);
     });

@@ -266,10 +266,12 @@ void tst_kxOverlayQtModel_structure::shouldNameAllRowsOfARemovalBeforeTheFirstGo
     const QModelIndexList doomed{index(5), index(2)};
     QString shownThen;
     QModelIndexList named;
-    connect(&model(), &kxOverlayQtModel::nodesAboutToGo, this, [&](const QModelIndexList &rows) {
-        named += rows;
-        shownThen = shown();
-    });
+    const QObject listener;
+    connect(&model(), &kxOverlayQtModel::nodesAboutToGo, &listener,
+            [&](const QModelIndexList &rows) {
+                named += rows;
+                shownThen = shown();
+            });
     service().deleteNodes({5, 2});
     QCOMPARE(named, doomed);
     QCOMPARE(shownThen, QString("a2 g3(b4) c5"));

@@ -230,7 +230,8 @@ void tst_kxOverlayQtModel_traps::shouldKeepPersistentIndexesUntilARemovalIsAnnou
     const QPersistentModelIndex kept(index(node));
     QVERIFY(kept.isValid());
     bool wasValid = false;
-    connect(&model(), &QAbstractItemModel::rowsAboutToBeRemoved, this,
+    const QObject listener;
+    connect(&model(), &QAbstractItemModel::rowsAboutToBeRemoved, &listener,
             [&] { wasValid = kept.isValid(); });
     if (moved) {
         Q_EMIT service().nodesMoved({node}, {5}, {0});
