@@ -136,10 +136,11 @@ void tst_kxOverlayQtModel_edits::shouldSendAnEditThatItsOwnRowCauses()
     fill("a2 b3");
     QMetaObject::Connection connection;
     const QObject listener;
-    connection = connect(&model(), &QAbstractItemModel::dataChanged, &listener, [&] {
-        disconnect(connection);
-        model().setData(index(3), "y3", Qt::EditRole);
-    });
+    connection =
+        connect(&model(), &QAbstractItemModel::dataChanged, &listener, [this, own = &connection] {
+            disconnect(*own);
+            model().setData(index(3), "y3", Qt::EditRole);
+        });
     model().setData(index(2), "x2", Qt::EditRole);
     QCOMPARE(log().linesOf({"setName"}), (QStringList{"setName [2] \"x2\"", "setName [3] \"y3\""}));
     KX_COMPARE_TREE(model(), service());

@@ -268,9 +268,9 @@ void tst_kxOverlayQtModel_structure::shouldNameAllRowsOfARemovalBeforeTheFirstGo
     QModelIndexList named;
     const QObject listener;
     connect(&model(), &kxOverlayQtModel::nodesAboutToGo, &listener,
-            [&](const QModelIndexList &rows) {
-                named += rows;
-                shownThen = shown();
+            [this, tree = &shownThen, all = &named](const QModelIndexList &rows) {
+                *all += rows;
+                *tree = shown();
             });
     service().deleteNodes({5, 2});
     QCOMPARE(named, doomed);

@@ -232,7 +232,7 @@ void tst_kxOverlayQtModel_traps::shouldKeepPersistentIndexesUntilARemovalIsAnnou
     bool wasValid = false;
     const QObject listener;
     connect(&model(), &QAbstractItemModel::rowsAboutToBeRemoved, &listener,
-            [&] { wasValid = kept.isValid(); });
+            [row = &kept, valid = &wasValid] { *valid = row->isValid(); });
     if (moved) {
         Q_EMIT service().nodesMoved({node}, {5}, {0});
     } else {
