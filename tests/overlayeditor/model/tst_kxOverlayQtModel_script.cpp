@@ -87,7 +87,7 @@ QString tst_kxOverlayQtModel_script::create(const Step &step)
 {
     const QRPC::NodeId parent = anyContainer(step.a);
     const QStringList lines{"a", "g()", "s*()", "g(a b- h(c) s*(d e-))", "a b c", "g(a) b"};
-    const QString line = lines.at(int(step.b % quint32(lines.size())));
+    const QString &line = lines.at(int(step.b % quint32(lines.size())));
     const int row = int(step.c % quint32(service().node(parent).children.size() + 1));
     QRPC::NodeList tops = service().insert(parent, row, line);
     const QRPC::NodeList all = service().allIds();

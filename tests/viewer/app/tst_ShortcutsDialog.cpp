@@ -95,10 +95,10 @@ void tst_ShortcutsDialog::shouldReadTheKeysOfMenus()
 {
     QMenuBar bar;
     QMenu *menu = bar.addMenu("&File");
-    menu->addAction("&Open…")->setShortcut(Qt::CTRL | Qt::Key_O);
+    menu->addAction("&Open…")->setShortcut(QKeySequence("Ctrl+O"));
     menu->addAction("Without");
     QMenu *inner = menu->addMenu("More");
-    inner->addAction("Deep")->setShortcuts({Qt::Key_F5, Qt::ALT | Qt::Key_R});
+    inner->addAction("Deep")->setShortcuts({QKeySequence("F5"), QKeySequence("Alt+R")});
     inner->addAction("Chord")->setShortcut(QKeySequence("Ctrl+K, Ctrl+D"));
     const QVector<kxShortcut::Entry> keys = menuKeys(bar, "Viewer");
     QStringList read;
