@@ -1,0 +1,202 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "tests/viewer/render/GoldenPicture.h"
+#include "tests/viewer/scene/ServiceTest.h"
+#include "viewer/render/OverlayPainter.h"
+
+#include <QPainter>
+#include <QTemporaryDir>
+
+using QRPC::NodeList;
+using viewer::ImageCache;
+using viewer::OverlayPainter;
+
+namespace {
+
+const QSize View(320, 180);
+const QColor Paper(52, 58, 66);
+
+struct Anchor
+{
+    const char *node;
+    QPointF at;
+    QColor color;
+};
+
+/// One overlay at each anchor, each in its own colour.
+const QVector<Anchor> &anchors()
+{
+    static const QVector<Anchor> all{
+        {"a", {0.0, 1.0}, "#ff6b6b"}, {"b", {0.5, 1.0}, "#ffd93d"}, {"c", {1.0, 1.0}, "#6bcb77"},
+        {"d", {0.0, 0.5}, "#4d96ff"}, {"e", {0.5, 0.5}, "#ffffff"}, {"f", {1.0, 0.5}, "#c77dff"},
+        {"g", {0.0, 0.0}, "#ff9f45"}, {"h", {0.5, 0.0}, "#45e0d0"}, {"i", {1.0, 0.0}, "#ff85c0"}};
+    return all;
+}
+
+/// A picture without symmetry: a mirrored, turned or cut one shows.
+QImage flag()
+{
+    QImage image(48, 32, QImage::Format_RGB32);
+    image.fill(QColor("#e9c46a"));
+    QPainter painter(&image);
+    painter.fillRect(0, 0, 24, 16, QColor("#264653"));
+    painter.fillRect(36, 24, 12, 8, QColor("#e76f51"));
+    return image;
+}
+
+} // namespace
+
+class tst_goldenPictures : public ServiceTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void shouldTellALineThatMovedByAPixel();
+    void shouldDrawNineAnchors_data();
+    void shouldDrawNineAnchors();
+    void shouldMoveByTheOffset();
+    void shouldAlignLinesByTheAnchor();
+    void shouldMixBackgroundsByTransparency();
+    void shouldStackSiblingsAndLeaveOutTheInactive();
+
+private:
+    QImage drawn();
+    void write(const QString &node, const QString &text, float size);
+    void showPicture(const QString &node);
+    void placeAtAnchors();
+
+    QString m_family;
+    QTemporaryDir m_folder;
+};
+
+void tst_goldenPictures::initTestCase()
+{
+    m_family = golden::loadFont();
+    QCOMPARE(m_family, QString("Overlay Test Sans"));
+    QVERIFY(flag().save(m_folder.filePath("flag.png")));
+}
+
+QImage tst_goldenPictures::drawn()
+{
+    QImage image(View, QImage::Format_RGB32);
+    image.fill(Paper);
+    ImageCache images;
+    OverlayPainter overlays(scene(), images);
+    QPainter painter(&image);
+    overlays.paint(painter, View, 96.0);
+    return image;
+}
+
+void tst_goldenPictures::write(const QString &node, const QString &text, float size)
+{
+    service().setText(ids(node), text);
+    service().setFont(ids(node), m_family);
+    service().setSize(ids(node), size);
+    service().setBackgroundTransparency(ids(node), Qt::white);
+}
+
+void tst_goldenPictures::showPicture(const QString &node)
+{
+    service().setOverlayType(ids(node), 1);
+    service().setImage(ids(node), m_folder.filePath("flag.png"));
+}
+
+void tst_goldenPictures::placeAtAnchors()
+{
+    for (const Anchor &anchor : anchors()) {
+        service().setPosition(ids(anchor.node), anchor.at);
+        service().setFontColor(ids(anchor.node), anchor.color);
+    }
+}
+
+void tst_goldenPictures::shouldTellALineThatMovedByAPixel()
+{
+    open("a");
+    write("a", "ill", 9.0F);
+    const QImage before = drawn();
+    service().setOffsetX(ids("a"), 0.75F); // a pixel at 96 dots per inch
+    QVERIFY(golden::differingPixels(drawn(), before) > 2 * golden::Tolerated);
+    QCOMPARE(golden::differingPixels(before, before), 0);
+}
+
+void tst_goldenPictures::shouldDrawNineAnchors_data()
+{
+    QTest::addColumn<bool>("isText");
+    QTest::addColumn<int>("sizeType");
+    QTest::newRow("text-absolute") << true << 0;
+    QTest::newRow("text-relative") << true << 1;
+    QTest::newRow("image-absolute") << false << 0;
+    QTest::newRow("image-relative") << false << 1;
+}
+
+void tst_goldenPictures::shouldDrawNineAnchors()
+{
+    QFETCH(bool, isText);
+    QFETCH(int, sizeType);
+    open("a b c d e f g h i");
+    for (const Anchor &anchor : anchors()) {
+        write(anchor.node, QString("Text %1").arg(anchor.node), sizeType == 0 ? 18.0F : 0.2F);
+        if (!isText)
+            showPicture(anchor.node);
+    }
+    service().setSizeType(ids("a b c d e f g h i"), sizeType);
+    placeAtAnchors();
+    QCOMPARE(golden::fault(drawn(), QTest::currentDataTag()), QString());
+}
+
+void tst_goldenPictures::shouldMoveByTheOffset()
+{
+    open("a b c d e f g h i");
+    for (const Anchor &anchor : anchors())
+        write(anchor.node, "o", 18.0F);
+    placeAtAnchors();
+    service().setOffsetX(ids("a b c d e f g h i"), 4.5F);
+    service().setOffsetY(ids("a b c d e f g h i"), 6.0F);
+    QCOMPARE(golden::fault(drawn(), "offset"), QString());
+}
+
+void tst_goldenPictures::shouldAlignLinesByTheAnchor()
+{
+    open("d e f");
+    for (const char *node : {"d", "e", "f"})
+        write(node, "Wide line\nmid\ni", 12.0F);
+    placeAtAnchors();
+    service().setBackgroundTransparency(ids("d e f"), Qt::black);
+    QCOMPARE(golden::fault(drawn(), "lines"), QString());
+}
+
+void tst_goldenPictures::shouldMixBackgroundsByTransparency()
+{
+    open("d e f h");
+    for (const char *node : {"d", "e", "f", "h"}) {
+        write(node, "Mix", 20.0F);
+        service().setBackgroundColor(ids(node), QColor("#2a9d8f"));
+    }
+    placeAtAnchors();
+    service().setBackgroundTransparency(ids("d"), Qt::black);
+    service().setBackgroundTransparency(ids("e"), QColor(128, 128, 128));
+    service().setBackgroundTransparency(ids("f"), Qt::white);
+    service().setBackgroundTransparency(ids("h"), QColor(255, 0, 0)); // a third
+    service().setOffsetX(ids("d"), 12.0F);
+    QCOMPARE(golden::fault(drawn(), "transparency"), QString());
+}
+
+void tst_goldenPictures::shouldStackSiblingsAndLeaveOutTheInactive()
+{
+    open("d e f- q-(b) s{h i-}");
+    for (const char *node : {"d", "e", "f", "b", "h", "i"})
+        write(node, QString("Node %1").arg(node), 24.0F);
+    placeAtAnchors();
+    service().setPosition(ids("d"), {0.5, 0.5});
+    service().setBackgroundColor(ids("e"), QColor("#e76f51"));
+    service().setBackgroundTransparency(ids("e"), QColor(90, 90, 90));
+    service().setOffsetX(ids("e"), 30.0F);
+    service().setOffsetY(ids("e"), -9.0F);
+    QCOMPARE(golden::fault(drawn(), "stacking"), QString());
+}
+
+KX_TEST_MAIN(tst_goldenPictures)
+
+#include "tst_goldenPictures.moc"
