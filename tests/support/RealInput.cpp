@@ -44,6 +44,11 @@ void key(const QString &name)
     run({"key", name});
 }
 
+void type(const QString &text)
+{
+    run({"type", "--delay", "10", "--", text});
+}
+
 void keyDown(const QString &name)
 {
     run({"keydown", name});

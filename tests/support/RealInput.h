@@ -19,7 +19,10 @@ void click(const QWidget &widget, const QPoint &place, const QStringList &heldKe
 /// Presses and releases a key by its X name ("Delete", "ctrl+a").
 void key(const QString &name);
 
-/// The halves of that.
+/// Presses and releases the keys of a text, one after another.
+void type(const QString &text);
+
+/// The halves of key().
 void keyDown(const QString &name);
 void keyUp(const QString &name);
 
