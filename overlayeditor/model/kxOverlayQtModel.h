@@ -82,8 +82,8 @@ Q_SIGNALS:
     /// `target` is the row that was dropped on or into, invalid for the root.
     void nodesDropped(const QRPC::NodeList &nodes, const QModelIndex &target);
 
-    /// The service has removed the nodes of these rows, and the rows go next, one by one. Whoever
-    /// keeps a selection of rows takes leave of them all at once here.
+    /// The service has removed or moved the nodes of these rows, and the rows leave their places
+    /// next, one by one. Whoever keeps a selection of rows takes leave of them all at once here.
     void nodesAboutToGo(const QModelIndexList &rows);
 
 public Q_SLOTS:
@@ -118,6 +118,7 @@ private:
     void appendChildren(QStandardItem *item, QRPC::NodeId id, Detached detached);
     void addNode(QRPC::NodeId id, ItemSet *incomplete);
     int rowBehindEarlierSibling(const QStandardItem *parent, QRPC::NodeId parentId, int row) const;
+    void announceLeaving(const QRPC::NodeList &nodes);
     bool place(QStandardItem *item, QRPC::NodeId parentId, QRPC::NodeId afterId);
     void updateCheckState(QStandardItem *item, QRPC::NodeId id);
     void updateActiveStates(QVector<QStandardItem *> stack);

@@ -164,19 +164,24 @@ void kxOverlayQtModel::nodeRemovedUpdate(QRPC::NodeId id)
     nodesRemovedUpdate({id});
 }
 
-void kxOverlayQtModel::nodesRemovedUpdate(const QRPC::NodeList &list)
+void kxOverlayQtModel::announceLeaving(const QRPC::NodeList &nodes)
 {
-    QVector<QStandardItem *> items;
     QModelIndexList rows;
-    for (const QRPC::NodeId id : list) {
-        QStandardItem *item = itemFromId(id);
-        if (!item)
-            continue;
-        items.append(item);
-        if (isInTree(item))
+    for (const QRPC::NodeId id : nodes) {
+        if (const QStandardItem *item = kxOverlayItemIndex::the().find(id, this))
             rows.append(item->index());
     }
     Q_EMIT nodesAboutToGo(rows);
+}
+
+void kxOverlayQtModel::nodesRemovedUpdate(const QRPC::NodeList &list)
+{
+    QVector<QStandardItem *> items;
+    for (const QRPC::NodeId id : list) {
+        if (QStandardItem *item = itemFromId(id))
+            items.append(item);
+    }
+    announceLeaving(list);
     const QVector<QStandardItem *> ordered = inOrderOfRemoval(items);
     for (QStandardItem *item : ordered)
         removeFromParent(item);
@@ -187,6 +192,7 @@ void kxOverlayQtModel::nodesMoved(const QRPC::NodeList &nodes, const QRPC::NodeL
 {
     if (m_updating)
         return;
+    announceLeaving(nodes);
     for (int i = 0; i < nodes.size(); ++i) {
         QStandardItem *item = itemFromId(nodes.at(i));
         if (item)

@@ -36,11 +36,15 @@ private Q_SLOTS:
     void shouldInvertLargeSelectionsInFewRanges();
     void shouldIgnoreTheNodesOfARemoval();
     void shouldRefreshThePanelInProportionToARemoval();
+    void shouldRefreshThePanelInProportionToAMove();
     void shouldShowTenThousandOpenLevels();
     void shouldEditASelectedRowOnClick();
     void shouldNotEditOnDoubleClickOrKeys();
     void shouldRenameThroughTheInlineEditor();
     void shouldSendACheckBoxClickOnce();
+
+private:
+    void openAndSelect(int nodes);
 };
 
 void tst_kxOverlayEditor_tree::shouldConfigureTheView()
@@ -291,17 +295,33 @@ void tst_kxOverlayEditor_tree::shouldIgnoreTheNodesOfARemoval()
     QCOMPARE(shown(), QString("a2 b3"));
 }
 
-void tst_kxOverlayEditor_tree::shouldRefreshThePanelInProportionToARemoval()
+void tst_kxOverlayEditor_tree::openAndSelect(int nodes)
 {
-    constexpr int nodes = 200;
     QStringList names;
     for (int i = 0; i < nodes; ++i)
         names.append("a" + QString::number(10 + i));
     openEditor(names.join(' '));
     call("selectAll");
     log().clear();
+}
+
+void tst_kxOverlayEditor_tree::shouldRefreshThePanelInProportionToARemoval()
+{
+    constexpr int nodes = 200;
+    openAndSelect(nodes);
     call("deleteOverlays");
     QCOMPARE(model().rowCount(), 0);
+    const int asked = log().count("getName");
+    QVERIFY2(asked <= 4 * nodes, qPrintable(QString::number(asked)));
+}
+
+void tst_kxOverlayEditor_tree::shouldRefreshThePanelInProportionToAMove()
+{
+    constexpr int nodes = 200;
+    openAndSelect(nodes);
+    call("createGroupFromSelection");
+    QCOMPARE(model().rowCount(), 1);
+    QCOMPARE(model().rowCount(model().index(0, 0)), nodes);
     const int asked = log().count("getName");
     QVERIFY2(asked <= 4 * nodes, qPrintable(QString::number(asked)));
 }
