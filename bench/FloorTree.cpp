@@ -51,6 +51,12 @@ void FloorTree::removeAll()
         qDeleteAll(m_model.takeRow(m_model.rowCount() - 1));
 }
 
+void FloorTree::removeEverySecond()
+{
+    for (int row = (m_model.rowCount() - 1) / 2 * 2; row >= 0; row -= 2)
+        qDeleteAll(m_model.takeRow(row));
+}
+
 void FloorTree::renameAll()
 {
     for (QStandardItem *item : qAsConst(m_items))
@@ -70,4 +76,32 @@ void FloorTree::moveAllIntoFirst()
     QStandardItem *target = m_model.item(0);
     while (m_model.rowCount() > 1)
         target->appendRow(m_model.takeRow(1));
+}
+
+void FloorTree::groupAll()
+{
+    m_model.insertRow(0, new QStandardItem(QStringLiteral("Group")));
+    moveAllIntoFirst();
+}
+
+void FloorTree::create(int count, QTreeView *view)
+{
+    for (int i = 0; i < count; ++i) {
+        auto *item = new QStandardItem(QStringLiteral("New"));
+        setActive(item, true);
+        m_model.appendRow(item);
+        view->scrollTo(item->index());
+        view->selectionModel()->select(item->index(), QItemSelectionModel::ClearAndSelect);
+    }
+}
+
+void FloorTree::duplicateAll(QTreeView *view)
+{
+    QItemSelection copies;
+    for (int row = m_model.rowCount() - 1; row >= 0; --row)
+        m_model.insertRow(row + 1, m_model.item(row)->clone());
+    for (int row = 1; row < m_model.rowCount(); row += 2)
+        copies.append(QItemSelectionRange(m_model.index(row, 0)));
+    view->scrollTo(copies.last().topLeft());
+    view->selectionModel()->select(copies, QItemSelectionModel::ClearAndSelect);
 }

@@ -9,6 +9,7 @@
 #include <QHash>
 #include <QIcon>
 #include <QStandardItemModel>
+#include <QTreeView>
 
 /// The least that Qt has to do for the same tree: plain items with the same roles, from values that
 /// are at hand, and none of the rules of the module. What the module needs is measured against it.
@@ -22,11 +23,21 @@ public:
     /// Empties the model and builds all rows, top-level row by top-level row.
     void fill();
     void removeAll();
+    void removeEverySecond();
     void renameAll();
     void enableAll();
 
     /// Moves all other top-level rows, one after the other, to the end of the first one.
     void moveAllIntoFirst();
+
+    /// Moves all top-level rows into a new first one.
+    void groupAll();
+
+    /// Appends rows one by one; each is shown and selected by itself.
+    void create(int count, QTreeView *view);
+
+    /// Inserts a copy behind each top-level row; the copies are selected and the last is shown.
+    void duplicateAll(QTreeView *view);
 
 private:
     QStandardItem *createItem(const viewer::Node &node);

@@ -17,19 +17,39 @@ QRPC::NodeId addNode(viewer::Scene *scene, QRPC::NodeId parent, viewer::NodeKind
     return id;
 }
 
+/// How many nodes lie in each top-level one, itself included; 1 for a flat tree.
+int sizeOfTops(Shape shape, int nodeCount)
+{
+    switch (shape) {
+    case Shape::Flat:
+        return 1;
+    case Shape::Groups:
+        return 21;
+    case Shape::Deep:
+        return 100;
+    case Shape::OneSwitch:
+        break;
+    }
+    return nodeCount;
+}
+
+viewer::NodeKind kindOf(Shape shape, bool isTop)
+{
+    if (shape == Shape::Deep || (isTop && shape == Shape::Groups))
+        return viewer::NodeKind::Group;
+    return isTop && shape == Shape::OneSwitch ? viewer::NodeKind::Switch
+                                              : viewer::NodeKind::Overlay;
+}
+
 viewer::Scene makeScene(Shape shape, int nodeCount)
 {
-    const int groupSize = 20;
-    const int depth = 100;
     viewer::Scene scene;
     QRPC::NodeId parent = viewer::Scene::RootId;
     for (int i = 0; i < nodeCount; ++i) {
-        const bool isTop =
-            shape == Shape::Flat || i % (shape == Shape::Groups ? groupSize + 1 : depth) == 0;
-        const bool isLeaf = shape == Shape::Flat || (shape == Shape::Groups && !isTop);
-        const auto kind = isLeaf ? viewer::NodeKind::Overlay : viewer::NodeKind::Group;
+        const bool isTop = i % sizeOfTops(shape, nodeCount) == 0;
+        const viewer::NodeKind kind = kindOf(shape, isTop);
         const QRPC::NodeId id = addNode(&scene, isTop ? viewer::Scene::RootId : parent, kind);
-        if (!isLeaf)
+        if (kind != viewer::NodeKind::Overlay)
             parent = id;
     }
     return scene;
@@ -80,6 +100,8 @@ const char *nameOf(Shape shape)
         return "flat";
     case Shape::Groups:
         return "groups of 20";
+    case Shape::OneSwitch:
+        return "one switch";
     case Shape::Deep:
         break;
     }

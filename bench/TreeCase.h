@@ -10,7 +10,7 @@
 
 #include <memory>
 
-enum class Shape { Flat, Groups, Deep };
+enum class Shape { Flat, Groups, Deep, OneSwitch };
 
 /// What one measurement works on: a scene of a shape and size in the viewer's service, registered
 /// for the module. One lives at a time.

@@ -5,6 +5,7 @@
 // to ask the service for it, asked bare in the same run.
 
 #include "bench/RatioReporter.h"
+#include "bench/Sides.h"
 #include "bench/TreeCase.h"
 #include "host/kxKernelServiceFactory.h"
 #include "overlayeditor/kxOverlayEditor.h"
@@ -12,21 +13,8 @@
 #include "tests/support/HostFixture.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
-
-#include <functional>
-#include <string>
 
 namespace {
-
-/// The seconds that `work` takes.
-double secondsOf(const std::function<void()> &work)
-{
-    QElapsedTimer timer;
-    timer.start();
-    work();
-    return double(timer.nsecsElapsed()) * 1e-9;
-}
 
 /// One question to each node, each through the registry as a module asks; `repeats` times.
 template<class T>
@@ -77,29 +65,14 @@ void runModule(benchmark::State &state, int size)
     Q_EMIT panel.tree.service()->modelReset();
     QMetaObject::invokeMethod(&editor, "selectAll");
     for ([[maybe_unused]] auto iteration : state)
-        state.SetIterationTime(secondsOf([&] { editor.updateAll(); }));
+        state.SetIterationTime(sides::secondsOf([&] { editor.updateAll(); }));
 }
 
 void runFloor(benchmark::State &state, int size)
 {
     const PanelCase panel(size);
     for ([[maybe_unused]] auto iteration : state)
-        state.SetIterationTime(secondsOf([&] { askAll(panel.tree.allNodes()); }));
-}
-
-void registerCase(int size)
-{
-    const std::string name = "full refresh|equal texts|" + std::to_string(size) + '|';
-    using Run = void (*)(benchmark::State &, int);
-    const std::pair<const char *, Run> sides[] = {{"module", runModule}, {"floor", runFloor}};
-    for (const auto &side : sides) {
-        benchmark::RegisterBenchmark(
-            (name + side.first).c_str(),
-            [size, run = side.second](benchmark::State &state) { run(state, size); })
-            ->UseManualTime()
-            ->Unit(benchmark::kMillisecond)
-            ->MinTime(0.2);
-    }
+        state.SetIterationTime(sides::secondsOf([&] { askAll(panel.tree.allNodes()); }));
 }
 
 } // namespace
@@ -108,8 +81,12 @@ int main(int argc, char **argv)
 {
     QApplication app(argc, argv);
     benchmark::Initialize(&argc, argv);
-    for (const int size : {1000, 10000})
-        registerCase(size);
+    for (const int size : {1000, 10000}) {
+        sides::add(
+            "full refresh", "equal texts", size,
+            [size](benchmark::State &state) { runModule(state, size); },
+            [size](benchmark::State &state) { runFloor(state, size); });
+    }
     RatioReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     return 0;

@@ -6,15 +6,14 @@
 
 #include "bench/FloorTree.h"
 #include "bench/RatioReporter.h"
+#include "bench/Sides.h"
 #include "bench/TreeCase.h"
 #include "overlayeditor/model/kxOverlayQtModel.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 
 #include <functional>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace {
@@ -65,16 +64,6 @@ std::vector<Operation> operations()
     };
 }
 
-/// The seconds that `work` takes, with what it leaves to the event loop.
-double secondsOf(const std::function<void()> &work)
-{
-    QElapsedTimer timer;
-    timer.start();
-    work();
-    QCoreApplication::processEvents();
-    return double(timer.nsecsElapsed()) * 1e-9;
-}
-
 void runModule(benchmark::State &state, const Operation &operation, Shape shape, int size,
                bool shown)
 {
@@ -85,7 +74,7 @@ void runModule(benchmark::State &state, const Operation &operation, Shape shape,
         if (!operation.startsEmpty)
             model.modelReset();
         QCoreApplication::processEvents();
-        state.SetIterationTime(secondsOf([&] { operation.module(&model, &tree); }));
+        state.SetIterationTime(sides::secondsOf([&] { operation.module(&model, &tree); }));
     }
 }
 
@@ -99,26 +88,16 @@ void runFloor(benchmark::State &state, const Operation &operation, Shape shape, 
         if (!operation.startsEmpty)
             floor.fill();
         QCoreApplication::processEvents();
-        state.SetIterationTime(secondsOf([&] { operation.floor(&floor); }));
+        state.SetIterationTime(sides::secondsOf([&] { operation.floor(&floor); }));
     }
 }
 
-void registerCase(const Operation &operation, Shape shape, int size, bool shown)
+void addCase(const Operation &operation, Shape shape, int size, bool shown)
 {
-    const std::string name = std::string(operation.name) + '|' + nameOf(shape)
-                             + (shown ? ", shown" : "") + '|' + std::to_string(size) + '|';
-    using Run = void (*)(benchmark::State &, const Operation &, Shape, int, bool);
-    const std::pair<const char *, Run> sides[] = {{"module", runModule}, {"floor", runFloor}};
-    for (const auto &side : sides) {
-        benchmark::RegisterBenchmark((name + side.first).c_str(),
-                                     [=, run = side.second](benchmark::State &state) {
-                                         run(state, operation, shape, size, shown);
-                                     })
-            ->UseManualTime()
-            ->Unit(benchmark::kMillisecond)
-            ->MinTime(0.05)
-            ->Repetitions(3);
-    }
+    sides::add(
+        operation.name, std::string(nameOf(shape)) + (shown ? ", shown" : ""), size,
+        [=](benchmark::State &state) { runModule(state, operation, shape, size, shown); },
+        [=](benchmark::State &state) { runFloor(state, operation, shape, size, shown); });
 }
 
 } // namespace
@@ -131,7 +110,7 @@ int main(int argc, char **argv)
         for (const Shape shape : {Shape::Flat, Shape::Groups, Shape::Deep}) {
             for (const bool shown : {false, true}) {
                 for (const int size : {1000, 10000, 100000})
-                    registerCase(operation, shape, size, shown);
+                    addCase(operation, shape, size, shown);
             }
         }
     }

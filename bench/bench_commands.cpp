@@ -1,0 +1,197 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+// How long commands on many nodes take, from the slot of the editor to the idle window, beside the
+// same rows and selection in a plain tree view. Prints a table of docs/PERFORMANCE.md.
+
+#include "bench/FloorTree.h"
+#include "bench/RatioReporter.h"
+#include "bench/Sides.h"
+#include "bench/TreeCase.h"
+#include "host/kxKernelServiceFactory.h"
+#include "overlayeditor/kxOverlayEditor.h"
+#include "overlayeditor/kxOverlayEditorGUIW.h"
+#include "tests/support/HostFixture.h"
+
+#include <QApplication>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace {
+
+enum class Picked { None, Half, All };
+
+/// How the tree stands before a command.
+struct Start
+{
+    Shape shape = Shape::Flat;
+    bool expanded = false;
+    Picked picked = Picked::None;
+};
+
+/// Selects every row or every second one, among siblings that are shown.
+void pick(QTreeView *view, const Start &start)
+{
+    if (start.expanded)
+        view->expandAll();
+    QItemSelection picked;
+    const QAbstractItemModel *model = view->model();
+    const std::function<void(const QModelIndex &)> walk = [&](const QModelIndex &parent) {
+        const int step = start.picked == Picked::Half ? 2 : 1;
+        for (int row = 0; row < model->rowCount(parent); row += step) {
+            const QModelIndex index = model->index(row, 0, parent);
+            picked.append(QItemSelectionRange(index));
+            if (start.expanded)
+                walk(index);
+        }
+    };
+    if (start.picked == Picked::All && !start.expanded)
+        picked.select(model->index(0, 0), model->index(model->rowCount() - 1, 0));
+    else if (start.picked != Picked::None)
+        walk(QModelIndex());
+    view->selectionModel()->select(picked, QItemSelectionModel::ClearAndSelect);
+    QCoreApplication::processEvents();
+}
+
+/// A host, the viewer's service and the editor's window over it.
+struct Editor
+{
+    Editor(const Start &start, int size) : tree(start.shape, size)
+    {
+        Q_EMIT tree.service()->modelReset();
+        host.mainWindow().resize(900, 800);
+        host.mainWindow().show();
+        host.registrations().last().window->show();
+        view = host.registrations().last().window->findChild<QTreeView *>();
+        QCoreApplication::processEvents();
+        pick(view, start);
+    }
+
+    void call(const char *slot) { QMetaObject::invokeMethod(&editor, slot); }
+
+    HostFixture host;
+    TreeCase tree;
+    kxOverlayEditor editor;
+    QTreeView *view = nullptr;
+};
+
+/// The plain tree in the same state.
+struct Plain
+{
+    Plain(const Start &start, int size)
+        : tree(start.shape, size)
+        , floor(tree.service()->scene())
+        , view(makeView(true, floor.model()))
+    {
+        floor.fill();
+        QCoreApplication::processEvents();
+        pick(view.get(), start);
+    }
+
+    HostFixture host;
+    TreeCase tree;
+    FloorTree floor;
+    std::unique_ptr<QTreeView> view;
+};
+
+struct Command
+{
+    const char *name;
+    const char *state;
+    Start start;
+    std::function<void(Editor *)> module;
+    std::function<void(Plain *)> floor;
+};
+
+void invert(Plain *plain)
+{
+    QItemSelection others;
+    const QAbstractItemModel *model = plain->view->model();
+    for (int row = 1; row < model->rowCount(); row += 2)
+        others.append(QItemSelectionRange(model->index(row, 0)));
+    plain->view->selectionModel()->select(others, QItemSelectionModel::ClearAndSelect);
+}
+
+std::vector<Command> commands()
+{
+    const auto slot = [](const char *name) {
+        return [name](Editor *editor) { editor->call(name); };
+    };
+    const Start all{Shape::Flat, false, Picked::All};
+    const Start half{Shape::Flat, false, Picked::Half};
+    const auto removeAll = [](Plain *plain) { plain->floor.removeAll(); };
+    const auto deleteAll = [](Editor *editor) {
+        editor->tree.service()->deleteNodes(editor->tree.topNodes());
+    };
+    return {
+        {"duplicate", "flat, all selected", all, slot("duplicateOverlays"),
+         [](Plain *plain) { plain->floor.duplicateAll(plain->view.get()); }},
+        {"delete", "flat, all selected", all, slot("deleteOverlays"), removeAll},
+        {"delete", "flat, half selected", half, slot("deleteOverlays"),
+         [](Plain *plain) { plain->floor.removeEverySecond(); }},
+        {"delete from elsewhere", "groups, collapsed", {Shape::Groups}, deleteAll, removeAll},
+        {"delete from elsewhere", "groups, expanded", {Shape::Groups, true}, deleteAll, removeAll},
+        {"delete",
+         "groups, expanded, all selected",
+         {Shape::Groups, true, Picked::All},
+         slot("deleteOverlays"),
+         removeAll},
+        {"group", "flat, all selected", all, slot("createGroupFromSelection"),
+         [](Plain *plain) { plain->floor.groupAll(); }},
+        {"toggle", "flat, all selected", all, slot("toggle"),
+         [](Plain *plain) { plain->floor.enableAll(); }},
+        {"toggle",
+         "one switch, all selected",
+         {Shape::OneSwitch, true, Picked::All},
+         slot("toggle"),
+         [](Plain *plain) { plain->floor.enableAll(); }},
+        {"move to a group",
+         "flat, all but one",
+         {},
+         [](Editor *editor) {
+             const QRPC::NodeId group = editor->tree.service()->createGroup(viewer::Scene::RootId);
+             editor->tree.service()->moveNodes(editor->tree.topNodes(), group, -1);
+         },
+         [](Plain *plain) { plain->floor.groupAll(); }},
+        {"create 1,000, one by one",
+         "flat",
+         {},
+         [](Editor *editor) {
+             for (int i = 0; i < 1000; ++i)
+                 editor->call("createOverlay");
+         },
+         [](Plain *plain) { plain->floor.create(1000, plain->view.get()); }},
+        {"invert the selection", "flat, half selected", half, slot("invertSelection"), invert},
+    };
+}
+
+template<class Side>
+sides::Run measure(const Start &start, int size, const std::function<void(Side *)> &work)
+{
+    return [=](benchmark::State &state) {
+        for ([[maybe_unused]] auto iteration : state) {
+            Side side(start, size);
+            state.SetIterationTime(sides::secondsOf([&] { work(&side); }));
+        }
+    };
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    for (const Command &command : commands()) {
+        for (const int size : {1000, 10000})
+            sides::add(command.name, command.state, size,
+                       measure<Editor>(command.start, size, command.module),
+                       measure<Plain>(command.start, size, command.floor), 1);
+    }
+    RatioReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    return 0;
+}
