@@ -3,6 +3,7 @@
 
 #include "overlayeditor/model/kxDropTrace.h"
 #include "tests/overlayeditor/EditorTest.h"
+#include "tests/support/Seeds.h"
 
 #include <QAbstractItemModelTester>
 #include <QLineEdit>
@@ -14,8 +15,7 @@
 /// Random sequences of what a user does in the editor's window and of what the service does beside
 /// it: selections, commands, edits, filters, drops. After each step the tree shows the service, and
 /// the selection holds nodes that are there. The seed is printed with the steps that led to a
-/// failure. KX_LONG_TESTS=1 makes more than 10,000 steps, from a seed of its own;
-/// KX_TEST_SEED=n begins with that one.
+/// failure. The long run makes more than 10,000 steps.
 class tst_kxOverlayEditor_script : public EditorTest
 {
     Q_OBJECT
@@ -231,12 +231,7 @@ QString tst_kxOverlayEditor_script::fault()
 
 void tst_kxOverlayEditor_script::shouldShowTheServiceAfterEachStep_data()
 {
-    QTest::addColumn<quint32>("seed");
-    const bool isLong = qEnvironmentVariableIntValue("KX_LONG_TESTS") > 0;
-    const QString given = qEnvironmentVariable("KX_TEST_SEED", isLong ? QString() : "1");
-    const quint32 first = given.isEmpty() ? std::random_device()() : given.toUInt();
-    for (quint32 i = 0; i < (isLong ? 150U : 8U); ++i)
-        QTest::addRow("seed %u", first + i) << first + i;
+    seeds::addRows(8, 150);
     // The dragged rows are grouped during the drag, and rows are taken from elsewhere after it.
     QTest::newRow("grouped during the drag") << 2933633026U;
 }

@@ -3,6 +3,7 @@
 
 #include "overlayeditor/model/kxDropTrace.h"
 #include "tests/overlayeditor/model/ModelTest.h"
+#include "tests/support/Seeds.h"
 
 #include <QMimeData>
 
@@ -25,7 +26,7 @@ using Script = QVector<Step>;
 } // namespace
 
 /// Random sequences of changes, with the tree compared after each. The seed is printed, and a
-/// failing script is shortened to the steps that it needs. KX_LONG_TESTS=1 runs many more.
+/// failing script is shortened to the steps that it needs.
 class tst_kxOverlayQtModel_script : public ModelTest
 {
     Q_OBJECT
@@ -279,11 +280,7 @@ Script tst_kxOverlayQtModel_script::shortened(Script script)
 
 void tst_kxOverlayQtModel_script::shouldShowTheServicesTreeAfterEachStep_data()
 {
-    QTest::addColumn<quint32>("seed");
-    const bool isLong = qEnvironmentVariableIntValue("KX_LONG_TESTS") > 0;
-    const quint32 first = isLong ? std::random_device()() : 1;
-    for (quint32 i = 0; i < (isLong ? 1000U : 30U); ++i)
-        QTest::addRow("seed %u", first + i) << first + i;
+    seeds::addRows(30, 1000);
 }
 
 void tst_kxOverlayQtModel_script::shouldShowTheServicesTreeAfterEachStep()
