@@ -25,7 +25,8 @@ public:
     void beginSearch();
 
 Q_SIGNALS:
-    /// The text has changed, by typing, clearing or setText(); with the whole text.
+    /// The text has changed, by typing, clearing or setText(); with the whole text. All modules
+    /// read it alike: QRegExp::Wildcard, case counts, found anywhere in a name; empty finds all.
     void searchChanged(const QString &text);
 
 protected:

@@ -7,6 +7,7 @@
 #include "viewer/app/MoveActions.h"
 #include "viewer/app/OverlayLayer.h"
 #include "viewer/app/Screenshot.h"
+#include "viewer/app/SearchGuide.h"
 #include "viewer/scene/SceneReader.h"
 
 #include <QApplication>
@@ -112,6 +113,7 @@ void ViewerSession::loadModules()
         if (!fault.isEmpty())
             report(Severity::Error, fault);
     }
+    SearchGuide::guideAll(m_window.get());
 }
 
 void ViewerSession::takePictureAndQuit()
