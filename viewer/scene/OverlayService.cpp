@@ -18,6 +18,7 @@ void OverlayService::setScene(Scene scene)
 {
     sendPostponed();
     scene.startIdsAt(m_scene.nextId());
+    m_history.clear(); // its steps are of the scene that goes
     m_scene = std::move(scene);
     m_highestNumbers.clear();
     m_scene.forEach([this](const Node &node) { countName(node.kind, node.name); });

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "host/kxOverlayService.h"
-#include "viewer/scene/Scene.h"
+#include "viewer/scene/History.h"
 
 #include <QHash>
 #include <QSet>
@@ -15,6 +15,7 @@
 namespace viewer {
 
 struct MovePlan;
+struct NodeFates;
 
 /// The viewer's overlay service: owns the open scene, answers and changes it, and announces every
 /// change. The application creates it, registers it under kxOverlayService and keeps it as long as
@@ -45,7 +46,18 @@ public:
     const Scene &scene() const { return m_scene; }
 
     /// Replaces the open scene and announces modelReset(). The nodes get ids that no node had before.
+    /// The history starts anew, with the scene taken for saved.
     void setScene(Scene scene);
+
+    /// What can be undone, and whether the scene is saved.
+    History &history() { return m_history; }
+
+    /// Takes back the last step, or does the one again that was taken back last. When all of it is
+    /// done it is announced: additions, moves, removals, values, enabled states. Nodes that come
+    /// back have their old ids and are announced by nodesAdded() alone. Ignored where there is no
+    /// step, and while one is being made.
+    void undo();
+    void redo();
 
     QRPC::NodeId getRootNode() override;
     QRPC::NodeId getParent(QRPC::NodeId node) override;
@@ -113,14 +125,20 @@ private:
     void postpone(std::function<void()> signal);
     void sendPostponed();
 
+    // history
+    Step stepOf(Operation operation, const QRPC::NodeList &nodes) const;
+    void record(Operation operation, const QRPC::NodeList &nodes, SceneChange change);
+    void recordAdded(Operation operation, const QRPC::NodeList &tops);
+    void restore(SceneChange::Direction direction);
+    void announceRestored(const Step &step, const NodeFates &fates);
+
     // values
-    template<class Change>
-    QRPC::NodeList changeOverlays(const QRPC::NodeList &nodes, Change change);
-    template<class Value>
-    void write(const QRPC::NodeList &nodes, Value Overlay::*member, const Value &value,
-               NodeSignal signal);
-    template<class Change>
-    void writeOffset(const QRPC::NodeList &nodes, Change change);
+    using ValueFor = std::function<PropertyValue(const Node &)>;
+    QRPC::NodeList change(Operation operation, Property property, const QRPC::NodeList &nodes,
+                          const ValueFor &valueFor);
+    void write(Operation operation, Property property, const QRPC::NodeList &nodes,
+               const PropertyValue &value);
+    void announceValue(Property property, const QRPC::NodeList &nodes);
 
     // nodes
     Node newNode(NodeKind kind);
@@ -128,17 +146,31 @@ private:
     QRPC::NodeId create(NodeKind kind, QRPC::NodeId parent);
     QRPC::NodeId copyNode(QRPC::NodeId original);
     QRPC::NodeList copyBehind(QRPC::NodeId parent, const QSet<QRPC::NodeId> &originals);
-    QRPC::NodeList relink(MovePlan plan, QRPC::NodeId newParent);
-    void announceMove(const QRPC::NodeList &block, QRPC::NodeId newParent,
-                      const QRPC::NodeList &enabledChanged);
+    void announceMove(const QRPC::NodeList &block, const QRPC::NodeList &enabledChanged);
+    void announcePlaces(const QRPC::NodeList &block);
+    QRPC::NodeList reachedBy(const QRPC::NodeList &block) const;
+    SceneChange relinked(MovePlan plan, QRPC::NodeId newParent);
     void fillGroup(QRPC::NodeId group, const QRPC::NodeList &nodes, bool takesOver);
     QHash<QRPC::NodeId, QSet<QRPC::NodeId>> byParent(const QRPC::NodeList &nodes) const;
     void removeFromParents(const QRPC::NodeList &nodes);
 
     Scene m_scene;
+    History m_history{&m_scene};
     QHash<int, int> m_highestNumbers; // by kind: the highest number that a counted name has had
     int m_announcedMoves = 0;         // moves that are being announced, one inside the other
     std::queue<std::function<void()>> m_postponed;
+};
+
+/// Makes one step of all that is done to a service during its life.
+class StepGroup
+{
+public:
+    StepGroup(OverlayService *service, const QString &text);
+    ~StepGroup();
+    Q_DISABLE_COPY(StepGroup)
+
+private:
+    OverlayService *m_service;
 };
 
 } // namespace viewer

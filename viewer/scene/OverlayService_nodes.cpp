@@ -48,6 +48,13 @@ int numberIn(const QString &name, const QString &pattern)
     return number <= HighestCounted ? number : 0;
 }
 
+Operation creationOf(NodeKind kind)
+{
+    return kind == NodeKind::Group    ? Operation::CreateGroup
+           : kind == NodeKind::Switch ? Operation::CreateSwitch
+                                      : Operation::CreateOverlay;
+}
+
 QString nameOfCopy(const QString &name)
 {
     return name.isEmpty() ? OverlayService::tr("Copy") : OverlayService::tr("%1 Copy").arg(name);
@@ -79,6 +86,7 @@ NodeId OverlayService::create(NodeKind kind, NodeId parent)
         return 0;
     const NodeId id = m_scene.add(newNode(kind));
     m_scene.append(parent, id);
+    recordAdded(creationOf(kind), {id});
     announceStructure(&kxOverlayService::nodesAdded, {id});
     announceStructure(&kxOverlayService::nodesCreated, {id});
     return id;
@@ -163,6 +171,8 @@ void OverlayService::duplicateNodes(const NodeList &nodes)
         copies += copyBehind(parent, children.value(parent));
     }
     copies = inTreeOrder(m_scene, copies);
+    if (!copies.isEmpty())
+        recordAdded(Operation::Duplicate, copies);
     announceStructure(&kxOverlayService::nodesAdded, copies);
     announceStructure(&kxOverlayService::nodesCreated, copies);
 }
@@ -182,9 +192,14 @@ void OverlayService::deleteNodes(const NodeList &nodes)
 {
     sendPostponed();
     const NodeList tops = inTreeOrder(m_scene, topNodes(m_scene, nodes));
+    SceneChange change;
+    change.before = SceneChange::placesOf(m_scene, tops);
+    Step step = stepOf(Operation::Delete, tops);
     removeFromParents(tops);
     for (const NodeId id : tops)
-        m_scene.take(id);
+        change.keep(m_scene.take(id));
+    step.changes.push_back(std::move(change));
+    m_history.record(std::move(step));
     announceStructure(&kxOverlayService::nodesRemoved, tops);
 }
 
@@ -197,13 +212,16 @@ void OverlayService::groupNodes(const NodeList &nodes)
     const Node &first = *m_scene.find(tops.constFirst());
     const Node &parent = *m_scene.find(first.parent);
     const bool takesOver = parent.shown != 0 && tops.contains(parent.shown);
+    m_history.open(stepOf(Operation::Group, tops));
     const NodeId group = m_scene.add(newNode(NodeKind::Group));
     std::vector<NodeId> siblings = parent.children;
     siblings.insert(siblings.begin() + first.row, group);
     m_scene.setChildren(parent.id, std::move(siblings));
+    recordAdded(Operation::Group, {group});
     announceStructure(&kxOverlayService::nodesAdded, {group});
     if (m_scene.find(group)) // a listener may have deleted it
         fillGroup(group, tops, takesOver);
+    m_history.close();
     announceStructure(&kxOverlayService::nodesCreated, {group});
 }
 
@@ -213,14 +231,17 @@ void OverlayService::fillGroup(NodeId group, const NodeList &nodes, bool takesOv
     if (plan.block.isEmpty())
         return;
     const NodeList block = plan.block;
-    relink(std::move(plan), group);
-    const Node &parent = *m_scene.find(m_scene.find(group)->parent);
+    SceneChange change = relinked(std::move(plan), group);
+    const Node &node = *m_scene.find(group);
+    const Node &parent = *m_scene.find(node.parent);
     NodeList enabledChanged;
     if (takesOver && parent.isSwitch() && parent.shown == 0) {
+        change.noteValue(node, Property::Enabled, true);
         m_scene.setEnabled(group, true);
         enabledChanged.append(group);
     }
-    announceMove(block, group, enabledChanged);
+    record(Operation::Group, block, std::move(change));
+    announceMove(block, enabledChanged);
 }
 
 void OverlayService::moveNodes(const NodeList &nodes, NodeId newParent, int row)
@@ -230,41 +251,71 @@ void OverlayService::moveNodes(const NodeList &nodes, NodeId newParent, int row)
     if (plan.block.isEmpty())
         return;
     const NodeList block = plan.block;
-    const NodeList disabled = relink(std::move(plan), newParent);
-    announceMove(block, newParent, disabled);
+    SceneChange change = relinked(std::move(plan), newParent);
+    NodeList disabled;
+    for (const SceneChange::Value &value : change.values)
+        disabled.append(value.node);
+    record(Operation::Move, block, std::move(change));
+    announceMove(block, disabled);
 }
 
-/// Carries a plan out. Returns the nodes that had to be disabled.
-NodeList OverlayService::relink(MovePlan plan, NodeId newParent)
+/// Carries a plan out. What it gives has values for the nodes that had to be disabled alone.
+SceneChange OverlayService::relinked(MovePlan plan, NodeId newParent)
 {
+    SceneChange change;
+    change.before = SceneChange::placesOf(m_scene, plan.block);
     NodeList fromElsewhere;
     for (const NodeId id : qAsConst(plan.block)) {
         if (m_scene.find(id)->parent != newParent)
             fromElsewhere.append(id);
     }
     removeFromParents(fromElsewhere);
-    return m_scene.setChildren(newParent, std::move(plan.children));
+    const NodeList disabled = m_scene.setChildren(newParent, std::move(plan.children));
+    change.after = SceneChange::placesOf(m_scene, plan.block);
+    for (const NodeId id : disabled)
+        change.values.push_back({id, Property::Enabled, true, false});
+    return change;
 }
 
-void OverlayService::announceMove(const NodeList &block, NodeId newParent,
-                                  const NodeList &enabledChanged)
+void OverlayService::announceMove(const NodeList &block, const NodeList &enabledChanged)
 {
-    const std::vector<NodeId> &siblings = m_scene.find(newParent)->children;
+    const NodeList enabledNodes = inTreeOrder(m_scene, reachedBy(block) + enabledChanged);
+    const QScopedValueRollback<int> announcing(m_announcedMoves, m_announcedMoves + 1);
+    announcePlaces(block);
+    announce(&kxOverlayService::enabledStateChanged, enabledNodes);
+}
+
+/// Announces the places that moved nodes have now.
+void OverlayService::announcePlaces(const NodeList &block)
+{
+    if (block.isEmpty())
+        return;
     NodeList parents;
     NodeList afters;
     for (const NodeId id : block) {
-        const int row = m_scene.find(id)->row;
-        parents.append(newParent);
-        afters.append(row > 0 ? siblings[std::size_t(row) - 1] : 0);
+        const Node &node = *m_scene.find(id);
+        const std::vector<NodeId> &siblings = m_scene.find(node.parent)->children;
+        parents.append(node.parent);
+        afters.append(node.row > 0 ? siblings[std::size_t(node.row) - 1] : 0);
     }
-    // A module looks no further than an inactive parent, so the topmost disabled node is named.
-    const NodeId closed = highestDisabled(m_scene, newParent);
-    const NodeList reached = m_scene.find(closed)->enabled ? block : NodeList{closed};
-    const NodeList enabledNodes = inTreeOrder(m_scene, reached + enabledChanged);
-
     const QScopedValueRollback<int> announcing(m_announcedMoves, m_announcedMoves + 1);
     announce([=] { Q_EMIT nodesMoved(block, parents, afters); });
-    announce(&kxOverlayService::enabledStateChanged, enabledNodes);
+}
+
+/// The nodes from which a move may have changed what is active. A module looks no further than an
+/// inactive parent, so the topmost disabled node is named.
+NodeList OverlayService::reachedBy(const NodeList &block) const
+{
+    NodeList reached;
+    QHash<NodeId, NodeId> closed; // by parent
+    for (const NodeId id : block) {
+        const NodeId parent = m_scene.find(id)->parent;
+        if (!closed.contains(parent))
+            closed.insert(parent, m_scene.isActive(parent) ? 0 : highestDisabled(m_scene, parent));
+        const NodeId top = closed.value(parent);
+        reached.append(top != 0 ? top : id);
+    }
+    return reached;
 }
 
 } // namespace viewer

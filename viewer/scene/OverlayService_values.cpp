@@ -9,86 +9,70 @@ namespace viewer {
 using QRPC::NodeId;
 using QRPC::NodeList;
 
-namespace {
-
-/// Whether two values are the same for the purpose of "nothing changes". The comparison of Qt's
-/// points is relative and a NaN never equals itself; here a value is the same when it reads the same.
-template<class Value>
-bool same(const Value &a, const Value &b)
-{
-    return a == b;
-}
-
-template<class Number>
-bool sameNumber(Number a, Number b)
-{
-    return a == b || (a != a && b != b);
-}
-
-bool same(float a, float b)
-{
-    return sameNumber(a, b);
-}
-
-bool same(const QPointF &a, const QPointF &b)
-{
-    return sameNumber(a.x(), b.x()) && sameNumber(a.y(), b.y());
-}
-
-} // namespace
-
-/// Runs change(Overlay &), which tells whether it changed something, on each listed overlay.
-template<class Change>
-NodeList OverlayService::changeOverlays(const NodeList &nodes, Change change)
+/// Gives every listed overlay its value. Returns the nodes that it changed, in tree order.
+NodeList OverlayService::change(Operation operation, Property property, const NodeList &nodes,
+                                const ValueFor &valueFor)
 {
     sendPostponed();
     NodeList changed;
+    SceneChange noted;
     const NodeList known = knownNodes(m_scene, nodes);
     for (const NodeId id : known) {
-        if (findOverlay(id) && change(m_scene.overlay(id)))
-            changed.append(id);
+        const Node &node = *m_scene.find(id);
+        if (!node.isOverlay() && property != Property::Name)
+            continue;
+        const PropertyValue value = valueFor(node);
+        if (sameValue(valueOf(node, property), value))
+            continue;
+        noted.noteValue(node, property, value);
+        setValue(&m_scene, id, property, value);
+        changed.append(id);
     }
+    record(operation, changed, std::move(noted));
     return inTreeOrder(m_scene, changed);
 }
 
-template<class Value>
-void OverlayService::write(const NodeList &nodes, Value Overlay::*member, const Value &value,
-                           NodeSignal signal)
+void OverlayService::write(Operation operation, Property property, const NodeList &nodes,
+                           const PropertyValue &value)
 {
-    const NodeList changed = changeOverlays(nodes, [member, &value](Overlay &overlay) {
-        const bool differs = !same(overlay.*member, value);
-        if (differs)
-            overlay.*member = value;
-        return differs;
-    });
-    announce(signal, changed);
+    announceValue(property,
+                  change(operation, property, nodes, [&value](const Node &) { return value; }));
+}
+
+void OverlayService::announceValue(Property property, const NodeList &nodes)
+{
+    using S = kxOverlayService;
+    static constexpr std::pair<Property, NodeSignal> table[] = {
+        {Property::Name, &S::nameChanged},
+        {Property::Type, &S::overlayTypeChanged},
+        {Property::Text, &S::textChanged},
+        {Property::Font, &S::fontChanged},
+        {Property::FontColor, &S::fontColorChanged},
+        {Property::BackgroundColor, &S::backgroundColorChanged},
+        {Property::BackgroundTransparency, &S::backgroundTransparencyChanged},
+        {Property::Image, &S::imageChanged},
+        {Property::SizeType, &S::sizeTypeChanged},
+        {Property::Size, &S::sizeChanged},
+        {Property::Position, &S::positionChanged},
+        {Property::Offset, &S::offsetChanged},
+    };
+    for (const auto &[known, signal] : table) {
+        // A view of the other type's values has not followed them while it could not show them.
+        const bool showsAnew =
+            property == Property::Type && known >= Property::Type && known <= Property::Image;
+        if (known == property || showsAnew)
+            announce(signal, nodes);
+    }
 }
 
 void OverlayService::setOverlayType(const NodeList &nodes, int type)
 {
-    const NodeList changed = changeOverlays(
-        nodes, [type](Overlay &overlay) { return std::exchange(overlay.type, type) != type; });
-    // A view of the other type's values has not followed them while it could not show them.
-    for (const NodeSignal signal :
-         {&kxOverlayService::overlayTypeChanged, &kxOverlayService::textChanged,
-          &kxOverlayService::fontChanged, &kxOverlayService::fontColorChanged,
-          &kxOverlayService::backgroundColorChanged,
-          &kxOverlayService::backgroundTransparencyChanged, &kxOverlayService::imageChanged})
-        announce(signal, changed);
+    write(Operation::SetType, Property::Type, nodes, type);
 }
 
 void OverlayService::setName(const NodeList &nodes, const QString &name)
 {
-    sendPostponed();
-    NodeList changed;
-    const NodeList known = knownNodes(m_scene, nodes);
-    for (const NodeId id : known) {
-        if (m_scene.find(id)->name == name)
-            continue;
-        m_scene.setName(id, name);
-        changed.append(id);
-    }
-    announce(&kxOverlayService::nameChanged, inTreeOrder(m_scene, changed));
+    write(Operation::Rename, Property::Name, nodes, name);
 }
 
 void OverlayService::setEnabled(const NodeList &nodes, bool enabled)
@@ -105,7 +89,9 @@ void OverlayService::setEnabled(const NodeList &nodes, bool enabled)
             wanted.append(id);
     }
     NodeList changed;
-    const auto change = [this, &changed](NodeId id, bool on) {
+    SceneChange noted;
+    const auto change = [this, &changed, &noted](NodeId id, bool on) {
+        noted.noteValue(*m_scene.find(id), Property::Enabled, on);
         m_scene.setEnabled(id, on);
         changed.append(id);
     };
@@ -119,42 +105,47 @@ void OverlayService::setEnabled(const NodeList &nodes, bool enabled)
     }
     for (const NodeId id : qAsConst(wanted))
         change(id, enabled);
+    record(enabled ? Operation::Enable : Operation::Disable, known, std::move(noted));
     announce(&kxOverlayService::enabledStateChanged, inTreeOrder(m_scene, changed));
 }
 
 void OverlayService::setText(const NodeList &nodes, const QString &text)
 {
-    write(nodes, &Overlay::text, text, &kxOverlayService::textChanged);
+    write(Operation::SetText, Property::Text, nodes, text);
 }
 
 void OverlayService::setFont(const NodeList &nodes, const QString &family)
 {
-    write(nodes, &Overlay::font, family, &kxOverlayService::fontChanged);
+    write(Operation::SetFont, Property::Font, nodes, family);
 }
 
 void OverlayService::setFontColor(const NodeList &nodes, const QColor &color)
 {
-    write(nodes, &Overlay::fontColor, color, &kxOverlayService::fontColorChanged);
+    write(Operation::SetFontColor, Property::FontColor, nodes, color);
 }
 
 void OverlayService::setBackgroundColor(const NodeList &nodes, const QColor &color)
 {
-    write(nodes, &Overlay::backgroundColor, color, &kxOverlayService::backgroundColorChanged);
+    write(Operation::SetBackgroundColor, Property::BackgroundColor, nodes, color);
 }
 
 void OverlayService::setBackgroundTransparency(const NodeList &nodes, const QColor &color)
 {
-    write(nodes, &Overlay::backgroundTransparency, color,
-          &kxOverlayService::backgroundTransparencyChanged);
+    write(Operation::SetBackgroundTransparency, Property::BackgroundTransparency, nodes, color);
 }
 
 void OverlayService::setImage(const NodeList &nodes, const QString &path)
 {
-    const NodeList concerned = changeOverlays(nodes, [&path](Overlay &overlay) {
-        const bool differs = overlay.image != path;
-        overlay.image = path;
-        return differs || !path.isEmpty();
-    });
+    NodeList concerned =
+        change(Operation::SetImage, Property::Image, nodes, [&path](const Node &) { return path; });
+    if (!path.isEmpty()) {
+        // Those that had it already are shown anew too, since the file may have changed.
+        concerned.clear();
+        const NodeList known = knownNodes(m_scene, nodes);
+        std::copy_if(known.begin(), known.end(), std::back_inserter(concerned),
+                     [this](NodeId id) { return m_scene.find(id)->isOverlay(); });
+        concerned = inTreeOrder(m_scene, concerned);
+    }
     if (!concerned.isEmpty() && !path.isEmpty())
         announce([this, path] { Q_EMIT imageFileSet(path); });
     announce(&kxOverlayService::imageChanged, concerned);
@@ -162,43 +153,38 @@ void OverlayService::setImage(const NodeList &nodes, const QString &path)
 
 void OverlayService::setSizeType(const NodeList &nodes, int sizeType)
 {
-    write(nodes, &Overlay::sizeType, sizeType, &kxOverlayService::sizeTypeChanged);
+    write(Operation::SetSizeType, Property::SizeType, nodes, sizeType);
 }
 
 void OverlayService::setSize(const NodeList &nodes, float size)
 {
-    write(nodes, &Overlay::size, size, &kxOverlayService::sizeChanged);
+    write(Operation::SetSize, Property::Size, nodes, size);
 }
 
 void OverlayService::setPosition(const NodeList &nodes, const QPointF &position)
 {
-    write(nodes, &Overlay::position, position, &kxOverlayService::positionChanged);
+    write(Operation::SetPosition, Property::Position, nodes, position);
 }
 
 void OverlayService::setOffset(const NodeList &nodes, const QPointF &offset)
 {
-    write(nodes, &Overlay::offset, offset, &kxOverlayService::offsetChanged);
-}
-
-template<class Change>
-void OverlayService::writeOffset(const NodeList &nodes, Change change)
-{
-    const NodeList changed = changeOverlays(nodes, [&change](Overlay &overlay) {
-        const QPointF before = overlay.offset;
-        change(overlay.offset);
-        return !same(before, overlay.offset);
-    });
-    announce(&kxOverlayService::offsetChanged, changed);
+    write(Operation::SetOffset, Property::Offset, nodes, offset);
 }
 
 void OverlayService::setOffsetX(const NodeList &nodes, float x)
 {
-    writeOffset(nodes, [x](QPointF &offset) { offset.setX(double(x)); });
+    announceValue(Property::Offset,
+                  change(Operation::SetOffsetX, Property::Offset, nodes, [x](const Node &node) {
+                      return QPointF(double(x), node.overlay.offset.y());
+                  }));
 }
 
 void OverlayService::setOffsetY(const NodeList &nodes, float y)
 {
-    writeOffset(nodes, [y](QPointF &offset) { offset.setY(double(y)); });
+    announceValue(Property::Offset,
+                  change(Operation::SetOffsetY, Property::Offset, nodes, [y](const Node &node) {
+                      return QPointF(node.overlay.offset.x(), double(y));
+                  }));
 }
 
 } // namespace viewer
