@@ -119,6 +119,8 @@ private:
     void addNode(QRPC::NodeId id, ItemSet *incomplete);
     int rowBehindEarlierSibling(const QStandardItem *parent, QRPC::NodeId parentId, int row) const;
     void announceLeaving(const QRPC::NodeList &nodes);
+    /// Keeps the nodes findable in the map while rows that hold their rows are taken out.
+    void rememberItems(const QRPC::NodeList &nodes) const;
     bool place(QStandardItem *item, QRPC::NodeId parentId, QRPC::NodeId afterId);
     void updateCheckState(QStandardItem *item, QRPC::NodeId id);
     void updateActiveStates(QVector<QStandardItem *> stack);

@@ -193,6 +193,7 @@ void kxOverlayQtModel::nodesMoved(const QRPC::NodeList &nodes, const QRPC::NodeL
     if (m_updating)
         return;
     announceLeaving(nodes);
+    rememberItems(nodes);
     for (int i = 0; i < nodes.size(); ++i) {
         QStandardItem *item = itemFromId(nodes.at(i));
         if (item)
@@ -201,6 +202,15 @@ void kxOverlayQtModel::nodesMoved(const QRPC::NodeList &nodes, const QRPC::NodeL
             item = createItem(nodes.at(i));
         if (!place(item, parents.value(i), afters.value(i)) && !isInTree(item))
             kxOverlayItemIndex::the().setDetached(item, this);
+    }
+}
+
+void kxOverlayQtModel::rememberItems(const QRPC::NodeList &nodes) const
+{
+    for (const QRPC::NodeId id : nodes) {
+        QStandardItem *item = kxOverlayItemIndex::the().find(id, this);
+        if (item && !s_itemMap[id])
+            s_itemMap[id] = item;
     }
 }
 

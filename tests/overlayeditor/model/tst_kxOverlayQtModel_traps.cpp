@@ -26,6 +26,7 @@ private Q_SLOTS:
     void shouldSurviveARowThatDisappearsInsideItsEdit_data();
     void shouldSurviveARowThatDisappearsInsideItsEdit();
     void shouldLeaveOutANodeMovedIntoItself();
+    void shouldShowAParentOnceThatLiesInAnEarlierNode();
     void shouldFollowChildrenOutOfADissolvedGroup_data();
     void shouldFollowChildrenOutOfADissolvedGroup();
     void shouldKeepPersistentIndexesUntilARemovalIsAnnounced_data();
@@ -189,6 +190,16 @@ void tst_kxOverlayQtModel_traps::shouldLeaveOutANodeMovedIntoItself()
     QCOMPARE(shown(), QString("h3(a4) b5"));
     Q_EMIT service().nodesMoved({3, 2}, {1, 3}, {0, 0});
     KX_COMPARE_TREE(model(), service());
+}
+
+/// The parent's row is taken out with the node, before the parent was ever asked for.
+void tst_kxOverlayQtModel_traps::shouldShowAParentOnceThatLiesInAnEarlierNode()
+{
+    fill("g2(h3(a4)) b5");
+    service().place(3, 1, 0);
+    service().place(2, 3, 0);
+    Q_EMIT service().nodesMoved({2, 3}, {3, 1}, {0, 0});
+    QCOMPARE(shown(), QString("h3(a4) b5"));
 }
 
 void tst_kxOverlayQtModel_traps::shouldFollowChildrenOutOfADissolvedGroup_data()
