@@ -15,8 +15,8 @@
 #include <random>
 
 /// The editor above the viewer's own service, whose rules of moving, grouping and switching are not
-/// those that a test made up. Random commands, edits, changes from outside, filters and drops; after
-/// each the tree shows the scene. The long run makes more than 10,000 steps.
+/// those that a test made up. Random commands, edits, changes from outside, undoing, filters and drops;
+/// after each the tree shows the scene. The long run makes more than 10,000 steps.
 class tst_kxOverlayEditor_scene : public EditorTest
 {
     Q_OBJECT
@@ -41,6 +41,7 @@ private:
     QString command();
     QString edit();
     QString changeOutside();
+    QString undo();
     QString filter();
     QString drop();
 
@@ -154,6 +155,18 @@ QString tst_kxOverlayEditor_scene::changeOutside()
     }
 }
 
+/// Brings removed nodes back under their old ids, among the rest.
+QString tst_kxOverlayEditor_scene::undo()
+{
+    const quint32 count = random(4);
+    for (quint32 i = 0; i < count; ++i)
+        m_scene->undo();
+    const quint32 redone = random(2);
+    if (redone > 0)
+        m_scene->redo();
+    return QStringLiteral("undo %1 steps, redo %2").arg(count).arg(redone);
+}
+
 QString tst_kxOverlayEditor_scene::filter()
 {
     const QStringList texts{"", "", "e", "Group", "[a-f]", "nothing of that name"};
@@ -200,8 +213,9 @@ QString tst_kxOverlayEditor_scene::step()
 {
     using Self = tst_kxOverlayEditor_scene;
     static constexpr QString (Self::*actions[])() = {
-        &Self::selectSome, &Self::selectSome,    &Self::command, &Self::command, &Self::command,
-        &Self::edit,       &Self::changeOutside, &Self::filter,  &Self::drop,    &Self::drop};
+        &Self::selectSome, &Self::selectSome, &Self::command,       &Self::command,
+        &Self::command,    &Self::edit,       &Self::changeOutside, &Self::undo,
+        &Self::filter,     &Self::drop,       &Self::drop};
     return (this->*actions[random(int(std::size(actions)))])();
 }
 
