@@ -52,6 +52,7 @@ private Q_SLOTS:
     void shouldIgnoreKeysWhileANameIsEdited_data();
     void shouldIgnoreKeysWhileANameIsEdited();
     void shouldOpenTheContextMenuAtTheCursor();
+    void shouldOpenOneMenuForARightClick();
 
 private:
     bool filter(QEvent *event) { return editor().eventFilter(&tree(), event); }
@@ -295,6 +296,29 @@ void tst_kxOverlayEditor_keys::shouldOpenTheContextMenuAtTheCursor()
     QVERIFY(!wasSeenInTheMenu);
     QVERIFY(probe.types.contains(QEvent::ContextMenu));
     QVERIFY(!menu->isVisible());
+}
+
+/// The event goes on to the view, which must not answer with a menu of its own.
+void tst_kxOverlayEditor_keys::shouldOpenOneMenuForARightClick()
+{
+    openEditor("a2");
+    showWindow();
+    const auto *menu = tree().findChild<QMenu *>();
+    QVERIFY(menu);
+    QVector<const QWidget *> opened;
+    QTimer closer;
+    connect(&closer, &QTimer::timeout, this, [&opened] {
+        if (QWidget *popup = QApplication::activePopupWidget()) {
+            opened.append(popup);
+            popup->close();
+        }
+    });
+    closer.start(0);
+    const QPoint place = tree().viewport()->rect().center();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, place, tree().viewport()->mapToGlobal(place));
+    QCoreApplication::sendEvent(tree().viewport(), &event);
+    QCoreApplication::processEvents();
+    QCOMPARE(opened, QVector<const QWidget *>{menu});
 }
 
 KX_TEST_MAIN(tst_kxOverlayEditor_keys)
