@@ -11,6 +11,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDockWidget>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
@@ -144,7 +145,8 @@ void MainWindow::createEditMenu()
 
 void MainWindow::createViewMenu()
 {
-    QMenu *menu = menuBar()->addMenu(tr("&View"));
+    m_viewMenu = menuBar()->addMenu(tr("&View"));
+    QMenu *menu = m_viewMenu;
     QAction *reset =
         menu->addAction(icon("ResetView"), tr("&Reset View"), m_viewArea, &ViewArea::resetView);
     reset->setObjectName(QStringLiteral("resetView"));
@@ -157,6 +159,16 @@ void MainWindow::createViewMenu()
     m_fullScreen->setCheckable(true);
     m_fullScreen->setShortcut(Qt::Key_F11);
     connect(m_fullScreen, &QAction::toggled, this, &MainWindow::toggleFullScreen);
+}
+
+void MainWindow::addHistory(QDockWidget *panel)
+{
+    addDockWidget(Qt::LeftDockWidgetArea, panel);
+    panel->hide();
+    QAction *show = panel->toggleViewAction();
+    show->setObjectName(QStringLiteral("showHistory"));
+    m_viewMenu->addSeparator();
+    m_viewMenu->addAction(show);
 }
 
 void MainWindow::createModulesMenu()

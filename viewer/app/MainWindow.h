@@ -9,6 +9,7 @@
 
 #include <QMainWindow>
 
+class QDockWidget;
 class QLabel;
 class QMenu;
 class QSettings;
@@ -33,6 +34,9 @@ public:
 
     /// Takes what edits the scene; the window itself does not.
     QMenu *editMenu() const { return m_editMenu; }
+
+    /// Takes the list of steps in, hidden until the user asks for it in the view menu.
+    void addHistory(QDockWidget *panel);
 
     /// Tells the user of keys that stand for a command of the menus and for one of a module. To be
     /// called once all modules are loaded.
@@ -82,6 +86,7 @@ private:
     ViewArea *m_viewArea;
     ModulePanels *m_panels = nullptr;
     QMenu *m_editMenu = nullptr;
+    QMenu *m_viewMenu = nullptr;
     QAction *m_fullScreen = nullptr;
     QLabel *m_backgroundLabel = nullptr;
     QString m_scenePath;

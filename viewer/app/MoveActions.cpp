@@ -9,7 +9,7 @@
 
 namespace viewer {
 
-MoveActions::MoveActions(kxOverlayService *service, QMenu *menu) : QObject(menu), m_service(service)
+MoveActions::MoveActions(OverlayService *service, QMenu *menu) : QObject(menu), m_service(service)
 {
     add(menu, MoveStep::Up, tr("Move &Up"), "moveUp", Qt::ALT + Qt::Key_Up);
     add(menu, MoveStep::Down, tr("Move &Down"), "moveDown", Qt::ALT + Qt::Key_Down);
@@ -56,10 +56,14 @@ void MoveActions::move(MoveStep step)
     const QRPC::NodeList nodes = view.selectedNodes();
     const QRPC::NodeList open = view.openNodes();
     const QVector<QRPC::NodeList> groups = siblingsOf(m_service, nodes);
+    std::optional<StepGroup> oneStep;
+    if (groups.size() > 1)
+        oneStep.emplace(m_service, tr("Move %1 items").arg(nodes.size()));
     for (const QRPC::NodeList &siblings : groups) {
         if (const std::optional<NodeMove> to = planStep(m_service, siblings, step))
             m_service->moveNodes(siblings, to->parent, to->row);
     }
+    oneStep.reset();
     if (groups.isEmpty())
         return;
     view.open(open);

@@ -5,6 +5,7 @@
 
 #include "viewer/app/MoveSteps.h"
 #include "viewer/app/NodeView.h"
+#include "viewer/scene/OverlayService.h"
 
 #include <QObject>
 
@@ -23,7 +24,7 @@ class MoveActions : public QObject
 
 public:
     /// Puts the commands into `menu`.
-    MoveActions(kxOverlayService *service, QMenu *menu);
+    MoveActions(OverlayService *service, QMenu *menu);
 
 private:
     void add(QMenu *menu, MoveStep step, const QString &text, const char *name, int key);
@@ -31,7 +32,7 @@ private:
     void refresh();
     void move(MoveStep step);
 
-    kxOverlayService *m_service;
+    OverlayService *m_service;
     QPointer<QWidget> m_focus; // the widget that the menu would act on, of whatever kind
     QList<QAction *> m_actions;
 };

@@ -3,11 +3,13 @@
 
 #include "viewer/app/ViewerSession.h"
 
+#include "viewer/app/HistoryPanel.h"
 #include "viewer/app/ModuleLoader.h"
 #include "viewer/app/MoveActions.h"
 #include "viewer/app/OverlayLayer.h"
 #include "viewer/app/Screenshot.h"
 #include "viewer/app/SearchGuide.h"
+#include "viewer/app/UndoActions.h"
 #include "viewer/scene/SceneReader.h"
 
 #include <QApplication>
@@ -44,7 +46,9 @@ ViewerSession::ViewerSession(const CommandLine &line, QSettings *settings)
     , m_services(m_window.get())
 {
     showOverlays();
+    new UndoActions(overlays(), m_window->editMenu());
     new MoveActions(overlays(), m_window->editMenu());
+    m_window->addHistory(new HistoryPanel(overlays(), m_window.get()));
     connect(m_window.get(), &MainWindow::openRequested, this, [this](const QString &file) {
         m_window->viewArea()->notices()->clear();
         openScene(file);

@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "viewer/app/UndoActions.h"
+
+#include "host/kxIconManager.h"
+
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPlainTextEdit>
+#include <QTextEdit>
+
+namespace viewer {
+
+namespace {
+
+/// The single line in which a widget takes text, or null.
+const QLineEdit *lineOf(const QObject *widget)
+{
+    if (const auto *line = qobject_cast<const QLineEdit *>(widget))
+        return line;
+    const auto *box = qobject_cast<const QAbstractSpinBox *>(widget);
+    return box ? box->findChild<QLineEdit *>() : nullptr;
+}
+
+const QTextDocument *documentOf(const QObject *widget)
+{
+    if (const auto *edit = qobject_cast<const QTextEdit *>(widget))
+        return edit->document();
+    const auto *edit = qobject_cast<const QPlainTextEdit *>(widget);
+    return edit ? edit->document() : nullptr;
+}
+
+/// Whether a widget takes text and claims the key without having any use for it.
+bool claimsInVain(const QObject *widget, const QKeyEvent &key)
+{
+    const bool undoes = key.matches(QKeySequence::Undo);
+    if (!undoes && !key.matches(QKeySequence::Redo))
+        return false;
+    if (const QLineEdit *line = lineOf(widget))
+        return !(undoes ? line->isUndoAvailable() : line->isRedoAvailable());
+    if (const QTextDocument *text = documentOf(widget))
+        return !(undoes ? text->isUndoAvailable() : text->isRedoAvailable());
+    return false;
+}
+
+} // namespace
+
+UndoActions::UndoActions(OverlayService *service, QMenu *menu)
+    : QObject(menu)
+    , m_service(service)
+    , m_undo(add(menu, "Undo", "undo", QKeySequence::Undo, &OverlayService::undo))
+    , m_redo(add(menu, "Redo", "redo", QKeySequence::Redo, &OverlayService::redo))
+{
+    menu->addSeparator();
+    const QUndoStack *stack = service->history().stack();
+    connect(stack, &QUndoStack::indexChanged, this, &UndoActions::refresh);
+    connect(qApp, &QApplication::focusChanged, this, [this] { m_service->history().endGesture(); });
+    qApp->installEventFilter(this);
+    refresh();
+}
+
+QAction *UndoActions::add(QMenu *menu, const char *icon, const char *name,
+                          QKeySequence::StandardKey key, Command command)
+{
+    QAction *action = menu->addAction(kxIconManager::getIcon(icon, ""), QString(), this,
+                                      [this, command] { (m_service->*command)(); });
+    action->setObjectName(QLatin1String(name));
+    action->setShortcuts(key);
+    return action;
+}
+
+void UndoActions::refresh()
+{
+    const QUndoStack *stack = m_service->history().stack();
+    m_undo->setText(stack->canUndo() ? tr("&Undo %1").arg(stack->undoText()) : tr("&Undo"));
+    m_redo->setText(stack->canRedo() ? tr("&Redo %1").arg(stack->redoText()) : tr("&Redo"));
+    m_undo->setEnabled(stack->canUndo());
+    m_redo->setEnabled(stack->canRedo());
+}
+
+bool UndoActions::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride
+        && claimsInVain(watched, *static_cast<QKeyEvent *>(event))) {
+        event->ignore();
+        return true;
+    }
+    watchMouse(*event);
+    return QObject::eventFilter(watched, event);
+}
+
+void UndoActions::watchMouse(const QEvent &event)
+{
+    History &history = m_service->history();
+    if (event.type() == QEvent::MouseButtonPress) {
+        history.endGesture();
+        history.setHeld(true);
+    } else if (event.type() == QEvent::MouseButtonRelease) {
+        // Not its end: a control may send its last value once it learns of the release.
+        history.setHeld(static_cast<const QMouseEvent &>(event).buttons() != Qt::NoButton);
+    }
+}
+
+} // namespace viewer
