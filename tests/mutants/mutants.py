@@ -1,0 +1,199 @@
+#!/usr/bin/env python3
+# SPDX-FileCopyrightText: the Overlay Editor authors
+# SPDX-License-Identifier: MIT
+"""Breaks the plug-in in one place at a time and looks whether its tests notice.
+
+Usage: mutants.py ROOT [--count N] [--seed S] [--file PART]
+
+Works on a copy of the tracked files below ROOT/build/mutants, so that the tree is never touched. Each
+mutant is compiled into the shared form of the plug-in's objects, so that no test is linked anew. A
+mutant that does not compile does not count. Mutants that no test can notice stand in equivalent.txt
+with the reason. Ends with 1 where fewer than 95 of 100 were caught.
+"""
+
+import argparse
+import json
+import os
+import pathlib
+import random
+import shutil
+import signal
+import subprocess
+import sys
+import time
+
+import mutations
+
+HERE = pathlib.Path(__file__).resolve().parent
+MODULE = "overlayeditor"
+TESTS = "tst_kx(Overlay|Common|Selection)"
+WANTED = 0.95
+LEAST_PATIENCE = 20.0  # seconds for a test; a mutant may hang it
+
+
+def run(command, cwd, **options):
+    return subprocess.run(command, cwd=cwd, text=True, capture_output=True, check=False, **options)
+
+
+def copy_tree(root, copy):
+    """Brings the copy up to date with the tracked files; unchanged ones keep their times."""
+    listed = run(["git", "ls-files", "-z"], root).stdout.split("\0")
+    for name in filter(None, listed):
+        source, target = root / name, copy / name
+        if not source.is_file():
+            continue
+        if target.is_file() and target.read_bytes() == source.read_bytes():
+            continue
+        target.parent.mkdir(parents=True, exist_ok=True)
+        shutil.copy2(source, target)
+        os.utime(target)
+
+
+class Workshop:
+    """The copy, its build and its tests."""
+
+    def __init__(self, copy):
+        self.copy = copy
+        self.build = copy / "build"
+        self.tests = []
+
+    def prepare(self):
+        flags = ["-DKX_SHARED_MODULE=ON", "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=-O0",
+                 "-DKX_BUILD_BENCH=OFF", "-G", "Ninja"]
+        self.must(["cmake", "-S", ".", "-B", "build", *flags])
+        names = {entry["name"].replace("_display", "") for entry in self.listed()}
+        self.must(["cmake", "--build", "build", "--target", "dragSource", *sorted(names)])
+        self.tests = [Test(entry) for entry in self.listed()]
+        for test in self.tests:
+            if not test.passes(self.build, 600.0):
+                sys.exit(f"mutants: {test.name} fails without a mutant")
+
+    def listed(self):
+        shown = self.must(["ctest", "--test-dir", "build", "--show-only=json-v1", "-R", TESTS])
+        return json.loads(shown)["tests"]
+
+    def must(self, command):
+        done = run(command, self.copy)
+        if done.returncode != 0:
+            sys.exit(f"mutants: '{command[0]}' fails:\n{done.stdout[-3000:]}{done.stderr}")
+        return done.stdout
+
+    def compiles(self):
+        return run(["cmake", "--build", "build", "--target", "overlayeditor_objects"],
+                   self.copy).returncode == 0
+
+    def killer(self, name):
+        """The first test that notices the mutant; those first that noticed one of this file."""
+        for test in sorted(self.tests, key=lambda each: each.rank(name)):
+            patience = LEAST_PATIENCE + 10 * test.seconds
+            if not test.passes(self.build, patience):
+                test.kills.append(name)
+                return test.name
+        return None
+
+
+class Test:
+    """One program of CTest."""
+
+    def __init__(self, entry):
+        self.name = entry["name"]
+        self.command = entry["command"]
+        properties = {each["name"]: each["value"] for each in entry["properties"]}
+        self.environment = dict(each.split("=", 1) for each in properties["ENVIRONMENT"])
+        self.seconds = 0.0
+        self.kills = []
+
+    def rank(self, name):
+        return (-self.kills[-8:].count(name), self.seconds / (1 + len(self.kills)))
+
+    def passes(self, build, patience):
+        start = time.monotonic()
+        process = subprocess.Popen(self.command, cwd=build, env={**os.environ, **self.environment},
+                                   stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                                   start_new_session=True)
+        try:
+            passed = process.wait(patience) == 0
+        except subprocess.TimeoutExpired:
+            os.killpg(process.pid, signal.SIGKILL)
+            process.wait()
+            passed = False
+        if passed:
+            self.seconds = time.monotonic() - start
+        return passed
+
+
+def candidates(root, part):
+    found = []
+    for path in sorted((root / MODULE).rglob("*.cpp")):
+        name = path.relative_to(root).as_posix()
+        if part in name:
+            found += [(name, mutant) for mutant in mutations.of(path.read_text())]
+    return found
+
+
+def equivalents():
+    """Mutants that change nothing a test could see, as pairs of file and change, with the reason."""
+    known = {}
+    for line in (HERE / "equivalent.txt").read_text().splitlines():
+        if line and not line.startswith("#"):
+            name, change, reason = line.split(" | ")
+            known[name, change] = reason
+    return known
+
+
+def describe(mutant):
+    _number, operator, old, new = mutant
+    if operator == mutations.swapped_statements.__name__:
+        return f"{old.strip()} <-> {new.split(chr(10))[0].strip()}"
+    return f"{old.strip()} -> {new.strip()}"
+
+
+def try_one(workshop, name, mutant):
+    """'skipped', the name of the test that noticed, or None."""
+    path = workshop.copy / name
+    good = path.read_text()
+    path.write_text(mutations.apply(good, mutant))
+    try:
+        return workshop.killer(name) if workshop.compiles() else "skipped"
+    finally:
+        path.write_text(good)
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    parser.add_argument("root", type=pathlib.Path)
+    parser.add_argument("--count", type=int, default=100)
+    parser.add_argument("--seed", type=int, default=random.randrange(10**6))
+    parser.add_argument("--file", default="")
+    options = parser.parse_args()
+    root = options.root.resolve()
+    workshop = Workshop(root / "build" / "mutants")
+    copy_tree(root, workshop.copy)
+    workshop.prepare()
+
+    pool = candidates(root, options.file)
+    random.Random(options.seed).shuffle(pool)
+    print(f"mutants: {options.count} of {len(pool)}, seed {options.seed}", flush=True)
+    known = equivalents()
+    caught, survivors = 0, []
+    for name, mutant in pool:
+        if caught + len(survivors) >= options.count:
+            break
+        if (name, describe(mutant)) in known:
+            continue
+        killer = try_one(workshop, name, mutant)
+        if killer == "skipped":
+            continue
+        line = f"{name}:{mutant[0]} | {describe(mutant)}"
+        print(f"{'caught by ' + killer if killer else 'SURVIVED'} | {line}", flush=True)
+        caught += 1 if killer else 0
+        survivors += [] if killer else [line]
+
+    print(f"mutants: {caught} of {caught + len(survivors)} caught, seed {options.seed}")
+    for line in survivors:
+        print(f"survived: {line}")
+    return 0 if caught >= WANTED * (caught + len(survivors)) else 1
+
+
+if __name__ == "__main__":
+    sys.exit(main())
