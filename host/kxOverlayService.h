@@ -128,9 +128,10 @@ public:
     /// The same for a switch.
     virtual QRPC::NodeId createSwitch(QRPC::NodeId parent) = 0;
 
-    /// Copies each node with all that lies in it, directly behind the original, and announces the
-    /// copies with nodesAdded() and nodesCreated(). A node that lies in another one of the list is
-    /// copied with that one only.
+    /// Copies each node with all that lies in it, and announces the copies with nodesAdded() and
+    /// nodesCreated(). A copy stands directly behind its original; the copies of neighbours stand
+    /// together, in their order, behind the last of them. A node that lies in another one of the
+    /// list is copied with that one only.
     virtual void duplicateNodes(const QRPC::NodeList &nodes) = 0;
 
     /// Deletes each node with all that lies in it. The list may hold a node and its descendant; the

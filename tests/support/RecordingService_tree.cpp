@@ -186,7 +186,11 @@ void RecordingService::duplicateNodes(const QRPC::NodeList &nodes)
     for (Node *original : originals) {
         Node *copy = copyOf(*original);
         QVector<Node *> &siblings = original->parent->children;
-        siblings.insert(siblings.indexOf(original) + 1, copy);
+        int row = siblings.indexOf(original) + 1;
+        while (row < siblings.size()
+               && (originals.contains(siblings.at(row)) || copies.contains(siblings.at(row)->id)))
+            ++row;
+        siblings.insert(row, copy);
         QRPC::NodeList changed;
         enterDisabled({copy}, &changed);
         copies.append(copy->id);

@@ -138,20 +138,30 @@ QHash<NodeId, QSet<NodeId>> OverlayService::byParent(const NodeList &nodes) cons
     return children;
 }
 
+/// The copies of neighbours stand together, behind the last of them: a view that has all of them
+/// selected keeps one range of rows, where copies in between would cut it into as many as there are.
 NodeList OverlayService::copyBehind(NodeId parent, const QSet<NodeId> &originals)
 {
     NodeList copies;
     std::vector<NodeId> result;
+    std::vector<NodeId> run;
+    const auto endRun = [&] {
+        result.insert(result.end(), run.begin(), run.end());
+        run.clear();
+    };
     const std::vector<NodeId> children = m_scene.find(parent)->children;
     for (const NodeId child : children) {
+        if (!originals.contains(child))
+            endRun();
         result.push_back(child);
         if (!originals.contains(child))
             continue;
         const NodeId copy = copyNode(child);
         m_scene.setName(copy, nameOfCopy(m_scene.find(child)->name));
         copies.append(copy);
-        result.push_back(copy);
+        run.push_back(copy);
     }
+    endRun();
     m_scene.setChildren(parent, std::move(result));
     return copies;
 }

@@ -80,7 +80,7 @@ void tst_History::shouldAnnounceWhatUndoAndRedoBringAbout_data()
     row("delete the shown child", "s{a- b c-}", [](auto &s, auto of) { s.deleteNodes(of("b")); },
         "s{a- c-}", {"nodesAdded b"}, {"nodesRemoved b"});
     row("duplicate", "g(a) b", [](auto &s, auto of) { s.duplicateNodes(of("b g")); },
-        "g(a) g Copy(a) b b Copy", {"nodesRemoved g Copy b Copy"}, {"nodesAdded g Copy b Copy"});
+        "g(a) b g Copy(a) b Copy", {"nodesRemoved g Copy b Copy"}, {"nodesAdded g Copy b Copy"});
     row("move", "a b c", [](auto &s, auto of) { s.moveNodes(of("a"), Scene::RootId, 3); }, "b c a",
         {"nodesMoved a / root / 0", "enabledStateChanged a"},
         {"nodesMoved a / root / c", "enabledStateChanged a"});

@@ -11,8 +11,8 @@ class tst_OverlayService_commands : public ServiceTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void shouldDuplicateDirectlyBehindTheOriginal_data();
-    void shouldDuplicateDirectlyBehindTheOriginal();
+    void shouldDuplicateBehindTheOriginals_data();
+    void shouldDuplicateBehindTheOriginals();
     void shouldCopyValuesAndKeepTheOriginalApart();
     void shouldNameTheCopyOfANamelessNode();
     void shouldDelete_data();
@@ -22,7 +22,7 @@ private Q_SLOTS:
     void shouldStopGroupingWhenTheGroupIsDeletedMeanwhile();
 };
 
-void tst_OverlayService_commands::shouldDuplicateDirectlyBehindTheOriginal_data()
+void tst_OverlayService_commands::shouldDuplicateBehindTheOriginals_data()
 {
     QTest::addColumn<QString>("before");
     QTest::addColumn<QString>("nodes");
@@ -36,6 +36,10 @@ void tst_OverlayService_commands::shouldDuplicateDirectlyBehindTheOriginal_data(
                                                << "c a"
                                                << "a a Copy b c c Copy"
                                                << "a Copy|c Copy";
+    QTest::newRow("neighbours, listed backwards") << "a b c d e"
+                                                  << "b e a d"
+                                                  << "a b a Copy b Copy c d e d Copy e Copy"
+                                                  << "a Copy|b Copy|d Copy|e Copy";
     QTest::newRow("with content") << "g(a h-(b)) c"
                                   << "g"
                                   << "g(a h-(b)) g Copy(a h-(b)) c"
@@ -50,7 +54,7 @@ void tst_OverlayService_commands::shouldDuplicateDirectlyBehindTheOriginal_data(
                                                                << "a Copy|b Copy|c Copy";
     QTest::newRow("the shown child of a switch") << "s{a b-}"
                                                  << "b a"
-                                                 << "s{a a Copy- b- b Copy-}"
+                                                 << "s{a b- a Copy- b Copy-}"
                                                  << "a Copy|b Copy";
     QTest::newRow("a switch") << "s{a- b}"
                               << "s"
@@ -66,7 +70,7 @@ void tst_OverlayService_commands::shouldDuplicateDirectlyBehindTheOriginal_data(
                                              << "a Copy";
 }
 
-void tst_OverlayService_commands::shouldDuplicateDirectlyBehindTheOriginal()
+void tst_OverlayService_commands::shouldDuplicateBehindTheOriginals()
 {
     QFETCH(QString, before);
     QFETCH(QString, nodes);
