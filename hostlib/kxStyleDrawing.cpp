@@ -54,6 +54,14 @@ void drawEditPanel(const QStyleOption *option, QPainter *painter, const QWidget 
         drawEditContents(option, painter);
 }
 
+// The pen in hand goes round inside `rect`, also where a point is not a whole number of pixels: without
+// smoothing the line would be shifted there, under what the frame holds.
+void drawInside(QPainter *painter, const QRect &rect)
+{
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->drawRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5));
+}
+
 void drawAreaFrame(const QStyleOption *option, QPainter *painter, const QWidget *widget)
 {
     QRgb color = kxStyleColors::borderDisabled;
@@ -64,7 +72,7 @@ void drawAreaFrame(const QStyleOption *option, QPainter *painter, const QWidget 
     painter->save();
     painter->setPen(QColor(color));
     painter->setBrush(Qt::NoBrush);
-    painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+    drawInside(painter, option->rect);
     painter->restore();
 }
 
@@ -88,7 +96,7 @@ void drawMenuPanel(const QStyleOption *option, QPainter *painter)
     painter->save();
     painter->setPen(QColor(kxStyleColors::border));
     painter->setBrush(QColor(kxStyleColors::window));
-    painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+    drawInside(painter, option->rect);
     painter->restore();
 }
 
