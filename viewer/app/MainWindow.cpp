@@ -12,14 +12,16 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDockWidget>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
+#include <QTimer>
+#include <QUrl>
 
 namespace viewer {
 
@@ -34,6 +36,13 @@ constexpr int LayoutVersion = 1;
 QIcon icon(const char *name)
 {
     return kxIconManager::getIcon(name, std::string());
+}
+
+/// The one local file that is dragged; empty for anything else.
+QString droppedFile(const QDropEvent &event)
+{
+    const QList<QUrl> urls = event.mimeData()->urls();
+    return urls.size() == 1 ? urls.constFirst().toLocalFile() : QString();
 }
 
 QString geometryKey()
@@ -53,6 +62,7 @@ MainWindow::MainWindow(ViewArea::Background background) : m_viewArea(new ViewAre
     setObjectName(QStringLiteral("mainWindow"));
     setCentralWidget(m_viewArea);
     setDockNestingEnabled(true);
+    setAcceptDrops(true);
     createFileMenu();
     createEditMenu();
     createViewMenu();
@@ -67,10 +77,9 @@ MainWindow::~MainWindow() = default;
 
 void MainWindow::setScenePath(const QString &path)
 {
-    m_scenePath = path;
     const QString application = QApplication::applicationDisplayName();
-    setWindowTitle(path.isEmpty() ? application
-                                  : tr("%1[*] - %2").arg(QFileInfo(path).fileName(), application));
+    const QString name = path.isEmpty() ? tr("Untitled") : QFileInfo(path).fileName();
+    setWindowTitle(tr("%1[*] - %2").arg(name, application));
 }
 
 void MainWindow::notify(Severity severity, const QString &text)
@@ -112,6 +121,10 @@ void MainWindow::showEvent(QShowEvent *event)
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
+    if (m_mayClose && !m_mayClose()) {
+        event->ignore();
+        return;
+    }
     emit closing();
     QMainWindow::closeEvent(event);
 }
@@ -126,13 +139,9 @@ void MainWindow::changeEvent(QEvent *event)
 
 void MainWindow::createFileMenu()
 {
-    QMenu *menu = menuBar()->addMenu(tr("&File"));
-    QAction *open =
-        menu->addAction(icon("FileOpen"), tr("&Open Scene…"), this, &MainWindow::chooseScene);
-    open->setShortcut(QKeySequence::Open);
-    open->setObjectName(QStringLiteral("openScene"));
-    menu->addSeparator();
-    QAction *quit = menu->addAction(tr("&Quit"), this, &QWidget::close);
+    m_fileMenu = menuBar()->addMenu(tr("&File"));
+    m_fileMenu->setObjectName(QStringLiteral("file"));
+    QAction *quit = m_fileMenu->addAction(tr("&Quit"), this, &QWidget::close);
     quit->setShortcut(QKeySequence::Quit);
     quit->setMenuRole(QAction::QuitRole);
 }
@@ -200,13 +209,18 @@ void MainWindow::createStatusBar()
             [this] { m_backgroundLabel->setText(m_viewArea->backgroundText()); });
 }
 
-void MainWindow::chooseScene()
+void MainWindow::dragEnterEvent(QDragEnterEvent *event)
 {
-    const QString path =
-        QFileDialog::getOpenFileName(this, tr("Open Scene"), QFileInfo(m_scenePath).absolutePath(),
-                                     tr("Scenes (*.json);;All files (*)"));
-    if (!path.isEmpty())
-        emit openRequested(path);
+    if (!droppedFile(*event).isEmpty())
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent *event)
+{
+    event->acceptProposedAction();
+    // The application that was dragged from waits for the drop to return; a question may follow.
+    const QString file = droppedFile(*event);
+    QTimer::singleShot(0, this, [this, file] { emit openRequested(file); });
 }
 
 void MainWindow::toggleFullScreen(bool on)

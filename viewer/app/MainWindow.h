@@ -9,6 +9,8 @@
 
 #include <QMainWindow>
 
+#include <functional>
+
 class QDockWidget;
 class QLabel;
 class QMenu;
@@ -32,6 +34,9 @@ public:
     ViewArea *viewArea() const { return m_viewArea; }
     ModulePanels *modulePanels() const { return m_panels; }
 
+    /// Takes what opens and saves scenes, before its first entry.
+    QMenu *fileMenu() const { return m_fileMenu; }
+
     /// Takes what edits the scene; the window itself does not.
     QMenu *editMenu() const { return m_editMenu; }
 
@@ -42,8 +47,11 @@ public:
     /// called once all modules are loaded.
     void reportKeyClashes();
 
-    /// Names the open scene in the title; an empty path for none.
+    /// Names the open scene in the title; an empty path for one without file.
     void setScenePath(const QString &path);
+
+    /// Is asked whether the window may close.
+    void setCloseGuard(std::function<bool()> mayClose) { m_mayClose = std::move(mayClose); }
 
     /// Tells the user something without blocking; errors and warnings also stand in the status bar.
     void notify(Severity severity, const QString &text);
@@ -59,13 +67,15 @@ public:
     void saveLayout(QSettings *settings) const;
 
 Q_SIGNALS:
-    /// The user chose a scene file.
+    /// The user dropped a scene file on the window.
     void openRequested(const QString &path);
 
     /// The user closed the window; its layout is still that of the screen.
     void closing();
 
 protected:
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void changeEvent(QEvent *event) override;
@@ -77,7 +87,6 @@ private:
     void createModulesMenu();
     void createHelpMenu();
     void createStatusBar();
-    void chooseScene();
     void toggleFullScreen(bool on);
     QVector<kxShortcut::Entry> ownKeys() const;
     void showShortcuts();
@@ -85,11 +94,12 @@ private:
 
     ViewArea *m_viewArea;
     ModulePanels *m_panels = nullptr;
+    QMenu *m_fileMenu = nullptr;
     QMenu *m_editMenu = nullptr;
     QMenu *m_viewMenu = nullptr;
     QAction *m_fullScreen = nullptr;
     QLabel *m_backgroundLabel = nullptr;
-    QString m_scenePath;
+    std::function<bool()> m_mayClose;
     bool m_wantsDefaultSizes = false;
 };
 

@@ -3,6 +3,7 @@
 
 #include "viewer/app/ViewerSession.h"
 
+#include "viewer/app/FileActions.h"
 #include "viewer/app/HistoryPanel.h"
 #include "viewer/app/ModuleLoader.h"
 #include "viewer/app/MoveActions.h"
@@ -10,7 +11,6 @@
 #include "viewer/app/Screenshot.h"
 #include "viewer/app/SearchGuide.h"
 #include "viewer/app/UndoActions.h"
-#include "viewer/scene/SceneReader.h"
 
 #include <QApplication>
 #include <QDir>
@@ -24,17 +24,6 @@ namespace viewer {
 namespace {
 
 constexpr int StatusTime = 5000;
-constexpr int MostLines = 6;
-
-// A scene with a thousand missing images must not bury the view.
-QString summary(const QStringList &warnings)
-{
-    QString text = warnings.mid(0, MostLines).join(QLatin1Char('\n'));
-    const int more = warnings.size() - MostLines;
-    if (more > 0)
-        text += QLatin1Char('\n') + ViewerSession::tr("... and %n more", nullptr, more);
-    return text;
-}
 
 } // namespace
 
@@ -49,10 +38,7 @@ ViewerSession::ViewerSession(const CommandLine &line, QSettings *settings)
     new UndoActions(overlays(), m_window->editMenu());
     new MoveActions(overlays(), m_window->editMenu());
     m_window->addHistory(new HistoryPanel(overlays(), m_window.get()));
-    connect(m_window.get(), &MainWindow::openRequested, this, [this](const QString &file) {
-        m_window->viewArea()->notices()->clear();
-        openScene(file);
-    });
+    connectDocument();
     connect(m_window.get(), &MainWindow::closing, this, [this] {
         if (m_settings)
             m_window->saveLayout(m_settings);
@@ -82,21 +68,27 @@ void ViewerSession::start()
         takePictureAndQuit();
 }
 
-bool ViewerSession::openScene(const QString &file)
+void ViewerSession::connectDocument()
 {
-    SceneReading reading = SceneReader::read(file);
-    if (!reading.scene) {
-        report(Severity::Error, reading.error);
-        return false;
-    }
-    m_images.forgetAll();
-    overlays()->setScene(std::move(*reading.scene));
-    m_window->setScenePath(file);
-    m_window->statusBar()->showMessage(tr("Opened %1").arg(QDir::toNativeSeparators(file)),
-                                       StatusTime);
-    if (!reading.warnings.isEmpty())
-        report(Severity::Warning, summary(reading.warnings));
-    return true;
+    MainWindow *window = m_window.get();
+    new FileActions(&m_document, window->fileMenu());
+    window->setCloseGuard([this] { return m_document.mayGo(); });
+    connect(window, &MainWindow::openRequested, &m_document, &SceneDocument::open);
+    connect(&m_document, &SceneDocument::dismissed, this,
+            [this] { m_window->viewArea()->notices()->clear(); });
+    connect(&m_document, &SceneDocument::aboutToReplace, this, [this] { m_images.forgetAll(); });
+    connect(&m_document, &SceneDocument::pathChanged, window, &MainWindow::setScenePath);
+    connect(&m_document, &SceneDocument::opened, this, [this](const QString &path) {
+        m_window->statusBar()->showMessage(tr("Opened %1").arg(QDir::toNativeSeparators(path)),
+                                           StatusTime);
+    });
+    connect(&m_document, &SceneDocument::saved, this, [this](const QString &path) {
+        m_window->statusBar()->showMessage(tr("Saved %1").arg(QDir::toNativeSeparators(path)),
+                                           StatusTime);
+    });
+    connect(&m_document, &SceneDocument::reported, this, &ViewerSession::report);
+    connect(overlays()->history().stack(), &QUndoStack::cleanChanged, window,
+            [window](bool clean) { window->setWindowModified(!clean); });
 }
 
 void ViewerSession::showOverlays()

@@ -6,6 +6,7 @@
 #include "viewer/app/CommandLine.h"
 #include "viewer/app/HostServices.h"
 #include "viewer/app/MainWindow.h"
+#include "viewer/app/SceneDocument.h"
 #include "viewer/render/ImageCache.h"
 #include "viewer/render/OverlayPainter.h"
 
@@ -25,7 +26,7 @@ class ViewerSession : public QObject
     Q_OBJECT
 
 public:
-    /// The window's layout is kept in `settings`; null for a run that neither reads nor leaves one.
+    /// The window's layout and recent files are kept in `settings`; null for a run that neither reads nor leaves one.
     explicit ViewerSession(const CommandLine &line, QSettings *settings);
     ~ViewerSession() override;
 
@@ -33,13 +34,16 @@ public:
     void start();
 
     /// Opens a scene file in place of the open scene, which stays as it is when the file is bad.
-    bool openScene(const QString &file);
+    bool openScene(const QString &file) { return m_document.load(file); }
+
+    SceneDocument *document() { return &m_document; }
 
     MainWindow *window() const { return m_window.get(); }
     OverlayService *overlays() { return m_services.overlays(); }
 
 private:
     void showOverlays();
+    void connectDocument();
     void loadModules();
     void takePictureAndQuit();
     void report(Severity severity, const QString &text);
@@ -48,6 +52,8 @@ private:
     QSettings *m_settings;
     std::unique_ptr<MainWindow> m_window;
     HostServices m_services;
+    FileQuestions m_questions{m_window.get()};
+    SceneDocument m_document{overlays(), &m_questions, m_settings};
     ImageCache m_images;
     OverlayPainter m_painter{overlays()->scene(), m_images};
 };

@@ -10,15 +10,18 @@
 #include "viewer/app/Viewport.h"
 
 #include <QDockWidget>
+#include <QDropEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QScreen>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QToolButton>
+#include <QUrl>
 
 using namespace viewer;
 
@@ -89,6 +92,9 @@ private Q_SLOTS:
     void shouldUseTheDefaultLayoutWhereTheRememberedOneIsBroken();
     void shouldKeepTheFullScreenSwitchInStepWithTheWindow();
     void shouldNameTheSceneInTheTitle();
+    void shouldAskForAFileThatIsDropped();
+    void shouldRefuseADropThatIsNoFile();
+    void shouldStayOpenWhenItMayNotClose();
     void shouldSayThatThereIsNo3DView();
     void shouldShowNoticesUntilTheyAreDismissed();
     void shouldShowAllLinesOfANotice();
@@ -279,11 +285,58 @@ void tst_MainWindow::shouldKeepTheFullScreenSwitchInStepWithTheWindow()
 void tst_MainWindow::shouldNameTheSceneInTheTitle()
 {
     Window window;
-    QCOMPARE(window.windowTitle(), QString("Overlay Viewer"));
+    QCOMPARE(window.windowTitle(), QString("Untitled[*] - Overlay Viewer"));
     window.setScenePath("/some/where/night.json");
     QCOMPARE(window.windowTitle(), QString("night.json[*] - Overlay Viewer"));
     window.setScenePath(QString());
-    QCOMPARE(window.windowTitle(), QString("Overlay Viewer"));
+    QCOMPARE(window.windowTitle(), QString("Untitled[*] - Overlay Viewer"));
+}
+
+static bool drop(QWidget *window, const QList<QUrl> &urls)
+{
+    QMimeData data;
+    data.setUrls(urls);
+    QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QApplication::sendEvent(window, &enter);
+    if (!enter.isAccepted())
+        return false;
+    QDropEvent event(QPointF(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window, &event);
+    return event.isAccepted();
+}
+
+void tst_MainWindow::shouldAskForAFileThatIsDropped()
+{
+    Window window;
+    QSignalSpy asked(&window, &MainWindow::openRequested);
+    QVERIFY(drop(&window, {QUrl::fromLocalFile("/some/where/night.json")}));
+    QCOMPARE(asked.count(), 0); // the drop has returned before anyone is asked
+    QTRY_COMPARE(asked.count(), 1);
+    QCOMPARE(asked.first().first().toString(), QString("/some/where/night.json"));
+}
+
+void tst_MainWindow::shouldRefuseADropThatIsNoFile()
+{
+    Window window;
+    QVERIFY(!drop(&window, {}));
+    QVERIFY(!drop(&window, {QUrl("https://host/a.json")}));
+    QVERIFY(!drop(&window, {QUrl::fromLocalFile("/a.json"), QUrl::fromLocalFile("/b.json")}));
+}
+
+void tst_MainWindow::shouldStayOpenWhenItMayNotClose()
+{
+    Window window;
+    QSignalSpy closing(&window, &MainWindow::closing);
+    int questions = 0;
+    window.show();
+    window.setCloseGuard([&questions] { return ++questions > 1; });
+    QVERIFY(!window.close());
+    QVERIFY(window.isVisible());
+    QCOMPARE(closing.count(), 0);
+    QVERIFY(window.close());
+    QCOMPARE(closing.count(), 1);
+    QCOMPARE(questions, 2);
 }
 
 void tst_MainWindow::shouldSayThatThereIsNo3DView()

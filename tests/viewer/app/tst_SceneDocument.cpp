@@ -1,0 +1,223 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "viewer/app/SceneDocument.h"
+
+#include "tests/support/KxTest.h"
+#include "viewer/app/FileActions.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include <memory>
+
+using namespace viewer;
+using Answer = FileQuestions::Answer;
+Q_DECLARE_METATYPE(viewer::FileQuestions::Answer)
+
+namespace {
+
+/// Answers as it is told, and counts the questions.
+class Answers : public FileQuestions
+{
+public:
+    Answers() : FileQuestions(nullptr) {}
+
+    Answer aboutChanges(const QString &name) override
+    {
+        asked.append(name);
+        return answer;
+    }
+    QString fileToOpen(const QString &) override { return file; }
+    QString fileToSave(const QString &) override { return file; }
+
+    Answer answer = Answer::Cancel;
+    QString file;
+    QStringList asked;
+};
+
+} // namespace
+
+class tst_SceneDocument : public KxTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() override;
+    void cleanup() override;
+    void shouldSaveAndOpen();
+    void shouldAskForAFileOnlyOnce();
+    void shouldNotAskWithoutChanges();
+    void shouldAskOnceBeforeTheSceneGoes_data();
+    void shouldAskOnceBeforeTheSceneGoes();
+    void shouldKeepAllWhenSavingFails();
+    void shouldKeepAllWhenAFileIsBad();
+    void shouldBeUnmodifiedWhereItWasSaved();
+    void shouldListRecentFiles();
+
+private:
+    QString file(const QString &name) const { return m_folder->filePath(name); }
+    void edit() { m_service->createOverlay(Scene::RootId); }
+    int nodes() const { return m_service->getChildCount(Scene::RootId); }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<QSettings> m_settings;
+    std::unique_ptr<OverlayService> m_service;
+    std::unique_ptr<Answers> m_answers;
+    std::unique_ptr<SceneDocument> m_document;
+};
+
+void tst_SceneDocument::init()
+{
+    KxTest::init();
+    qRegisterMetaType<viewer::Severity>("viewer::Severity");
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_settings = std::make_unique<QSettings>(file("settings.ini"), QSettings::IniFormat);
+    m_service = std::make_unique<OverlayService>();
+    m_answers = std::make_unique<Answers>();
+    m_document =
+        std::make_unique<SceneDocument>(m_service.get(), m_answers.get(), m_settings.get());
+}
+
+void tst_SceneDocument::cleanup()
+{
+    m_document.reset();
+    m_answers.reset();
+    m_service.reset();
+    m_settings.reset();
+    KxTest::cleanup();
+}
+
+void tst_SceneDocument::shouldSaveAndOpen()
+{
+    QSignalSpy paths(m_document.get(), &SceneDocument::pathChanged);
+    edit();
+    m_answers->file = file("a.json");
+    QVERIFY(m_document->save());
+    QCOMPARE(m_document->path(), file("a.json"));
+    QCOMPARE(m_document->name(), QString("a.json"));
+    m_document->startNew();
+    QCOMPARE(m_document->path(), QString());
+    QCOMPARE(nodes(), 0);
+    m_document->chooseAndOpen();
+    QCOMPARE(nodes(), 1);
+    QCOMPARE(paths.count(), 3);
+    QVERIFY(m_answers->asked.isEmpty());
+}
+
+void tst_SceneDocument::shouldAskForAFileOnlyOnce()
+{
+    edit();
+    QVERIFY(!m_document->save());
+    m_answers->file = file("a.json");
+    QVERIFY(m_document->save());
+    m_answers->file = file("b.json");
+    edit();
+    QVERIFY(m_document->save());
+    QVERIFY(!QFile::exists(file("b.json")));
+    QVERIFY(m_document->saveAs());
+    QVERIFY(QFile::exists(file("b.json")));
+    QCOMPARE(m_document->path(), file("b.json"));
+}
+
+void tst_SceneDocument::shouldNotAskWithoutChanges()
+{
+    edit();
+    m_service->undo();
+    QVERIFY(m_document->mayGo());
+    QVERIFY(m_answers->asked.isEmpty());
+}
+
+void tst_SceneDocument::shouldAskOnceBeforeTheSceneGoes_data()
+{
+    QTest::addColumn<FileQuestions::Answer>("answer");
+    QTest::addColumn<bool>("goes");
+    QTest::addColumn<bool>("isSaved");
+    QTest::newRow("save") << Answer::Save << true << true;
+    QTest::newRow("discard") << Answer::Discard << true << false;
+    QTest::newRow("cancel") << Answer::Cancel << false << false;
+}
+
+void tst_SceneDocument::shouldAskOnceBeforeTheSceneGoes()
+{
+    QFETCH(FileQuestions::Answer, answer);
+    QFETCH(bool, goes);
+    QFETCH(bool, isSaved);
+    m_answers->file = file("a.json");
+    edit();
+    QVERIFY(m_document->save());
+    edit();
+    m_answers->answer = answer;
+    m_document->startNew();
+    QCOMPARE(m_answers->asked, QStringList("a.json"));
+    QCOMPARE(nodes(), goes ? 0 : 2);
+    QCOMPARE(m_document->isModified(), !goes);
+    m_answers->answer = Answer::Discard;
+    m_document->open(file("a.json"));
+    QCOMPARE(nodes(), isSaved ? 2 : 1);
+}
+
+void tst_SceneDocument::shouldKeepAllWhenSavingFails()
+{
+    QSignalSpy reports(m_document.get(), &SceneDocument::reported);
+    edit();
+    m_answers->file = file("no/such/folder/a.json");
+    m_answers->answer = Answer::Save;
+    m_document->startNew();
+    QCOMPARE(nodes(), 1);
+    QVERIFY(m_document->isModified());
+    QCOMPARE(m_document->path(), QString());
+    QCOMPARE(reports.count(), 1);
+}
+
+void tst_SceneDocument::shouldKeepAllWhenAFileIsBad()
+{
+    QSignalSpy reports(m_document.get(), &SceneDocument::reported);
+    edit();
+    m_answers->answer = Answer::Discard;
+    m_document->open(file("missing.json"));
+    QCOMPARE(reports.count(), 1);
+    QCOMPARE(nodes(), 1);
+    QVERIFY(m_document->isModified());
+    m_service->undo();
+    QCOMPARE(nodes(), 0);
+    QVERIFY(m_document->recentFiles().isEmpty());
+}
+
+void tst_SceneDocument::shouldBeUnmodifiedWhereItWasSaved()
+{
+    m_answers->file = file("a.json");
+    edit();
+    QVERIFY(m_document->isModified());
+    QVERIFY(m_document->save());
+    QVERIFY(!m_document->isModified());
+    m_service->undo();
+    QVERIFY(m_document->isModified());
+    m_service->redo();
+    QVERIFY(!m_document->isModified());
+}
+
+void tst_SceneDocument::shouldListRecentFiles()
+{
+    for (int i = 0; i < 10; ++i) {
+        m_answers->file = file(QStringLiteral("%1.json").arg(i));
+        QVERIFY(m_document->saveAs());
+    }
+    m_document->open(file("7.json"));
+    QMenu menu;
+    const FileActions actions(m_document.get(), &menu);
+    const auto *recent = menu.findChild<QMenu *>("openRecent");
+    QCOMPARE(recent->actions().size(), 8 + 2);
+    QVERIFY(recent->actions().at(0)->text().endsWith("7.json"));
+    recent->actions().at(1)->trigger();
+    QCOMPARE(m_document->path(), file("9.json"));
+    recent->actions().constLast()->trigger();
+    QVERIFY(m_document->recentFiles().isEmpty());
+    QVERIFY(!recent->isEnabled());
+}
+
+KX_TEST_MAIN(tst_SceneDocument)
+#include "tst_SceneDocument.moc"

@@ -1,0 +1,167 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "viewer/app/SceneDocument.h"
+
+#include "viewer/scene/SceneReader.h"
+#include "viewer/scene/SceneWriter.h"
+
+#include <QFileInfo>
+#include <QSettings>
+
+namespace viewer {
+
+namespace {
+
+constexpr int MostLines = 6;
+constexpr int MostRecent = 8;
+
+QString recentKey()
+{
+    return QStringLiteral("recentFiles");
+}
+
+// A scene with a thousand missing images must not bury the view.
+QString summary(const QStringList &warnings)
+{
+    QString text = warnings.mid(0, MostLines).join(QLatin1Char('\n'));
+    const int more = warnings.size() - MostLines;
+    if (more > 0)
+        text += QLatin1Char('\n') + SceneDocument::tr("... and %n more", nullptr, more);
+    return text;
+}
+
+} // namespace
+
+SceneDocument::SceneDocument(OverlayService *service, FileQuestions *questions, QSettings *settings)
+    : m_service(service)
+    , m_questions(questions)
+    , m_settings(settings)
+{
+}
+
+QString SceneDocument::name() const
+{
+    return m_path.isEmpty() ? tr("Untitled") : QFileInfo(m_path).fileName();
+}
+
+bool SceneDocument::isModified() const
+{
+    return !m_service->history().stack()->isClean();
+}
+
+bool SceneDocument::mayGo()
+{
+    if (!isModified())
+        return true;
+    const FileQuestions::Answer answer = m_questions->aboutChanges(name());
+    return answer == FileQuestions::Answer::Discard
+           || (answer == FileQuestions::Answer::Save && save());
+}
+
+void SceneDocument::startNew()
+{
+    if (!mayGo())
+        return;
+    emit dismissed();
+    emit aboutToReplace();
+    m_service->setScene(Scene());
+    setPath(QString());
+}
+
+void SceneDocument::chooseAndOpen()
+{
+    const QString file = m_questions->fileToOpen(m_path);
+    if (!file.isEmpty())
+        open(file);
+}
+
+void SceneDocument::open(const QString &file)
+{
+    if (!mayGo())
+        return;
+    emit dismissed();
+    load(file);
+}
+
+bool SceneDocument::load(const QString &file)
+{
+    SceneReading reading = SceneReader::read(file);
+    if (!reading.scene) {
+        emit reported(Severity::Error, reading.error);
+        return false;
+    }
+    emit aboutToReplace();
+    m_service->setScene(std::move(*reading.scene));
+    const QString path = QFileInfo(file).absoluteFilePath();
+    setPath(path);
+    remember(path);
+    emit opened(path);
+    if (!reading.warnings.isEmpty())
+        emit reported(Severity::Warning, summary(reading.warnings));
+    return true;
+}
+
+void SceneDocument::setUnsavedScene(Scene scene, const QString &path)
+{
+    emit aboutToReplace();
+    m_service->setScene(std::move(scene));
+    m_service->history().setUnsaved();
+    setPath(path);
+}
+
+bool SceneDocument::save()
+{
+    return m_path.isEmpty() ? saveAs() : write(m_path);
+}
+
+bool SceneDocument::saveAs()
+{
+    const QString file = m_questions->fileToSave(m_path);
+    return !file.isEmpty() && write(QFileInfo(file).absoluteFilePath());
+}
+
+bool SceneDocument::write(const QString &file)
+{
+    const SceneWriting writing = SceneWriter::write(m_service->scene(), file);
+    if (!writing.isWritten()) {
+        emit reported(Severity::Error, writing.error);
+        return false;
+    }
+    m_service->history().setSaved();
+    setPath(file);
+    remember(file);
+    emit saved(file);
+    if (!writing.warnings.isEmpty())
+        emit reported(Severity::Warning, summary(writing.warnings));
+    return true;
+}
+
+void SceneDocument::setPath(const QString &path)
+{
+    m_path = path;
+    emit pathChanged(path);
+}
+
+QStringList SceneDocument::recentFiles() const
+{
+    return m_settings ? m_settings->value(recentKey()).toStringList() : QStringList();
+}
+
+void SceneDocument::forgetRecentFiles()
+{
+    if (m_settings)
+        m_settings->remove(recentKey());
+}
+
+void SceneDocument::remember(const QString &file)
+{
+    if (!m_settings)
+        return;
+    QStringList files = recentFiles();
+    files.removeAll(file);
+    files.prepend(file);
+    m_settings->setValue(recentKey(), QStringList(files.mid(0, MostRecent)));
+}
+
+} // namespace viewer

@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "viewer/app/FileQuestions.h"
+#include "viewer/app/NoticeArea.h"
+#include "viewer/scene/OverlayService.h"
+
+#include <QObject>
+
+class QSettings;
+
+namespace viewer {
+
+/// The open scene as a file: where it is saved, whether it is, and what has to be asked before it
+/// goes. Made and owned by the session; windows and menus call it. A file that cannot be read or
+/// written leaves scene, history and file as they are.
+class SceneDocument : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Remembers recent files in `settings`; null for a run that leaves nothing behind.
+    SceneDocument(OverlayService *service, FileQuestions *questions, QSettings *settings);
+
+    /// The file of the open scene; empty when it has none yet.
+    QString path() const { return m_path; }
+
+    /// The file's name for the user.
+    QString name() const;
+
+    bool isModified() const;
+
+    /// Files that were opened or saved, the last one first.
+    QStringList recentFiles() const;
+    void forgetRecentFiles();
+
+    /// True when the open scene may go: it is saved, or the user does not want it.
+    bool mayGo();
+
+    /// Opens a file without asking. False, with a report, when it is bad.
+    bool load(const QString &file);
+
+    /// Puts up a scene that no file holds in this state.
+    void setUnsavedScene(Scene scene, const QString &path);
+
+public Q_SLOTS:
+    /// Asks for unsaved changes, then starts an empty scene.
+    void startNew();
+
+    /// Asks for a file, and for unsaved changes.
+    void chooseAndOpen();
+
+    /// Asks for unsaved changes, then opens a file.
+    void open(const QString &file);
+
+    /// False when nothing was written.
+    bool save();
+    bool saveAs();
+
+Q_SIGNALS:
+    /// Another file or scene; the title of the window follows.
+    void pathChanged(const QString &path);
+
+    /// The open scene was read from a file or written into one.
+    void opened(const QString &path);
+    void saved(const QString &path);
+
+    /// The user has let the open scene go; old messages are of no use any more.
+    void dismissed();
+
+    /// A scene is about to be replaced by another one.
+    void aboutToReplace();
+
+    void reported(viewer::Severity severity, const QString &text);
+
+private:
+    bool write(const QString &file);
+    void setPath(const QString &path);
+    void remember(const QString &file);
+
+    OverlayService *m_service;
+    FileQuestions *m_questions;
+    QSettings *m_settings;
+    QString m_path;
+};
+
+} // namespace viewer
