@@ -202,7 +202,6 @@ private Q_SLOTS:
     void shouldShowTheOldTextDimmedWhileItIsEdited();
     void shouldFrameTheFocusOnEveryKind_data() { addKinds(); }
     void shouldFrameTheFocusOnEveryKind();
-    void shouldFrameAnAreaOnAllSidesOfAFineDisplay();
     void shouldDimDisabledControls_data() { addKinds(); }
     void shouldDimDisabledControls();
     void shouldDescribeMixedControls_data() { addKinds(); }
@@ -368,35 +367,6 @@ void tst_kxStyle::shouldFrameTheFocusOnEveryKind()
         stage.control->setFocus();
         const int with = countOf(stage.image(false), kxStyle::getAccentColor());
         QVERIFY2(with > without + 40, qPrintable(QStringLiteral("%1 %2").arg(with).arg(without)));
-    }
-}
-
-/// Its edges lie on half pixels there, at every second place.
-void tst_kxStyle::shouldFrameAnAreaOnAllSidesOfAFineDisplay()
-{
-    QWidget ground;
-    QPalette palette = ground.palette();
-    palette.setColor(QPalette::Window, Qt::black);
-    palette.setColor(QPalette::Base, Qt::black);
-    ground.setPalette(palette);
-    ground.resize(80, 80);
-    QPlainTextEdit area(&ground);
-    for (const QRect &place :
-         {QRect(10, 10, 60, 60), QRect(11, 11, 60, 60), QRect(10, 10, 61, 61)}) {
-        area.setGeometry(place);
-        QImage image(ground.size() * 1.5, QImage::Format_RGB32);
-        image.setDevicePixelRatio(1.5);
-        ground.render(&image);
-        const auto shows = [&image](double x, double y) {
-            const int left = qFloor(x * 1.5);
-            const int top = qFloor(y * 1.5);
-            return qGray(image.pixel(left, top)) > 20 || qGray(image.pixel(left + 1, top + 1)) > 20;
-        };
-        const QPoint center = place.center();
-        QVERIFY(shows(place.left(), center.y()));
-        QVERIFY(shows(center.x(), place.top()));
-        QVERIFY(shows(place.right(), center.y()));
-        QVERIFY(shows(center.x(), place.bottom()));
     }
 }
 
