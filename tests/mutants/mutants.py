@@ -26,7 +26,7 @@ import mutations
 
 HERE = pathlib.Path(__file__).resolve().parent
 MODULE = "overlayeditor"
-TESTS = "tst_kx(Overlay|Common|Selection)"
+TESTS = "tst_kx(Overlay|Common|Multi|Selection)"
 WANTED = 0.95
 LEAST_PATIENCE = 20.0  # seconds for a test; a mutant may hang it
 
