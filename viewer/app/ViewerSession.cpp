@@ -14,8 +14,10 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QLocale>
 #include <QSettings>
 #include <QStatusBar>
+#include <QTimer>
 
 #include <cstdio>
 
@@ -27,18 +29,23 @@ constexpr int StatusTime = 5000;
 
 } // namespace
 
-ViewerSession::ViewerSession(const CommandLine &line, QSettings *settings)
+ViewerSession::ViewerSession(const CommandLine &line, QSettings *settings,
+                             std::unique_ptr<FileQuestions> questions)
     : m_line(line)
     , m_settings(settings)
     , m_window(std::make_unique<MainWindow>(line.withoutGl ? ViewArea::Background::Painted
                                                            : ViewArea::Background::OpenGl))
     , m_services(m_window.get())
+    , m_questions(questions ? std::move(questions)
+                            : std::make_unique<FileQuestions>(m_window.get()))
 {
     showOverlays();
     new UndoActions(overlays(), m_window->editMenu());
     new MoveActions(overlays(), m_window->editMenu());
     m_window->addHistory(new HistoryPanel(overlays(), m_window.get()));
     connectDocument();
+    if (m_settings)
+        keepJournal();
     connect(m_window.get(), &MainWindow::closing, this, [this] {
         if (m_settings)
             m_window->saveLayout(m_settings);
@@ -64,6 +71,8 @@ void ViewerSession::start()
         overlays()->setScene(Scene());
     m_services.announceReady();
     m_window->reportKeyClashes();
+    if (m_journal)
+        QTimer::singleShot(0, this, &ViewerSession::offerLostWork);
     if (!m_line.screenshot.isEmpty())
         takePictureAndQuit();
 }
@@ -89,6 +98,46 @@ void ViewerSession::connectDocument()
     connect(&m_document, &SceneDocument::reported, this, &ViewerSession::report);
     connect(overlays()->history().stack(), &QUndoStack::cleanChanged, window,
             [window](bool clean) { window->setWindowModified(!clean); });
+}
+
+QString ViewerSession::journalFolder() const
+{
+    return QFileInfo(m_settings->fileName()).absoluteDir().filePath(QStringLiteral("unsaved"));
+}
+
+void ViewerSession::keepJournal()
+{
+    m_journal = std::make_unique<Journal>(overlays(), journalFolder());
+    connect(&m_document, &SceneDocument::pathChanged, m_journal.get(), &Journal::setPath);
+    connect(m_journal.get(), &Journal::failed, this,
+            [this](const QString &text) { report(Severity::Warning, text); });
+}
+
+/// The latest first. Once one is taken up, the others wait for another start.
+void ViewerSession::offerLostWork()
+{
+    QVector<LostWork> lost = Journal::lostWork(journalFolder());
+    for (; !lost.isEmpty(); lost.removeLast()) {
+        const LostWork &work = lost.constLast();
+        std::optional<Scene> scene = Journal::recover(work);
+        if (!scene)
+            continue;
+        const QString name =
+            work.path.isEmpty() ? tr("Untitled") : QDir::toNativeSeparators(work.path);
+        const FileQuestions::Answer answer =
+            m_questions->aboutRecovery(name, QLocale().toString(work.time, QLocale::ShortFormat));
+        if (answer == FileQuestions::Answer::Cancel)
+            return;
+        const bool isWanted = answer == FileQuestions::Answer::Save;
+        if (isWanted) {
+            m_document.setUnsavedScene(std::move(*scene), work.path);
+            if (!m_journal->flush())
+                return; // the old journal is the only copy
+        }
+        Journal::forget(work);
+        if (isWanted)
+            return;
+    }
 }
 
 void ViewerSession::showOverlays()

@@ -9,6 +9,7 @@
 #include "viewer/app/SceneDocument.h"
 #include "viewer/render/ImageCache.h"
 #include "viewer/render/OverlayPainter.h"
+#include "viewer/scene/Journal.h"
 
 #include <QObject>
 
@@ -26,8 +27,11 @@ class ViewerSession : public QObject
     Q_OBJECT
 
 public:
-    /// The window's layout and recent files are kept in `settings`; null for a run that neither reads nor leaves one.
-    explicit ViewerSession(const CommandLine &line, QSettings *settings);
+    /// The window's layout and recent files are kept in `settings`; null for a run that neither reads nor leaves
+    /// any. Beside them lies the journal of unsaved work.
+    /// `questions` stands in for the dialogs.
+    explicit ViewerSession(const CommandLine &line, QSettings *settings,
+                           std::unique_ptr<FileQuestions> questions = nullptr);
     ~ViewerSession() override;
 
     /// Loads the modules, shows the window, opens the scene and tells the modules that all is ready.
@@ -44,6 +48,9 @@ public:
 private:
     void showOverlays();
     void connectDocument();
+    void keepJournal();
+    void offerLostWork();
+    QString journalFolder() const;
     void loadModules();
     void takePictureAndQuit();
     void report(Severity severity, const QString &text);
@@ -52,8 +59,9 @@ private:
     QSettings *m_settings;
     std::unique_ptr<MainWindow> m_window;
     HostServices m_services;
-    FileQuestions m_questions{m_window.get()};
-    SceneDocument m_document{overlays(), &m_questions, m_settings};
+    const std::unique_ptr<FileQuestions> m_questions;
+    SceneDocument m_document{overlays(), m_questions.get(), m_settings};
+    std::unique_ptr<Journal> m_journal; // none without settings
     ImageCache m_images;
     OverlayPainter m_painter{overlays()->scene(), m_images};
 };

@@ -7,6 +7,7 @@
 #include "tests/viewer/app/OverlayPicture.h"
 #include "viewer/app/ModulePanels.h"
 
+#include <QDir>
 #include <QDockWidget>
 #include <QPainter>
 #include <QSettings>
@@ -15,6 +16,8 @@
 #include <QTemporaryDir>
 
 using namespace viewer;
+using Answer = FileQuestions::Answer;
+Q_DECLARE_METATYPE(viewer::FileQuestions::Answer)
 
 class tst_ViewerSession : public KxTest
 {
@@ -37,6 +40,9 @@ private Q_SLOTS:
     void shouldShortenManyWarnings();
     void shouldTakeOldNoticesAwayWhenTheUserOpensAScene();
     void shouldKeepTheLayoutForTheNextRun();
+    void shouldOfferLostWork_data();
+    void shouldOfferLostWork();
+    void shouldMarkUnsavedChangesInTheTitle();
     void shouldLeaveAPictureAndQuit();
     void shouldFailWhenThePictureCannotBeWritten();
 
@@ -285,6 +291,75 @@ void tst_ViewerSession::shouldKeepTheLayoutForTheNextRun()
     ViewerSession session(line({}), &settings);
     session.start();
     QVERIFY(!session.window()->modulePanels()->dock("Journal")->isVisible());
+}
+
+namespace {
+
+class Answers : public FileQuestions
+{
+public:
+    Answers(Answer answer, QStringList *asked)
+        : FileQuestions(nullptr)
+        , m_answer(answer)
+        , m_asked(asked)
+    {
+    }
+    Answer aboutRecovery(const QString &name, const QString &) override
+    {
+        m_asked->append(name);
+        return m_answer;
+    }
+
+private:
+    Answer m_answer;
+    QStringList *m_asked;
+};
+
+} // namespace
+
+void tst_ViewerSession::shouldOfferLostWork_data()
+{
+    QTest::addColumn<FileQuestions::Answer>("answer");
+    QTest::addColumn<int>("nodes");
+    QTest::addColumn<bool>("staysForLater");
+    QTest::newRow("recover") << Answer::Save << 1 << false;
+    QTest::newRow("discard") << Answer::Discard << 0 << false;
+    QTest::newRow("later") << Answer::Cancel << 0 << true;
+}
+
+void tst_ViewerSession::shouldOfferLostWork()
+{
+    QFETCH(FileQuestions::Answer, answer);
+    QFETCH(int, nodes);
+    QFETCH(bool, staysForLater);
+    QVERIFY(QDir(m_folder->path()).mkdir("unsaved"));
+    const QString journal =
+        write("unsaved/left.journal",
+              "/scenes/night.json\n" + scene(R"({"kind": "group", "name": "lost"})"));
+    QSettings settings(m_folder->filePath("settings.ini"), QSettings::IniFormat);
+    QStringList asked;
+    ViewerSession session(line({}), &settings, std::make_unique<Answers>(answer, &asked));
+    session.start();
+    QTRY_COMPARE(asked, QStringList("/scenes/night.json"));
+    QCOMPARE(session.overlays()->getChildCount(Scene::RootId), nodes);
+    QCOMPARE(session.document()->isModified(), nodes > 0);
+    QCOMPARE(session.document()->path(), QString(nodes > 0 ? "/scenes/night.json" : ""));
+    QCOMPARE(QFile::exists(journal), staysForLater);
+    // What was recovered is still not saved.
+    QCOMPARE(QDir(m_folder->filePath("unsaved")).entryList({"*.journal"}).size(),
+             staysForLater || nodes > 0 ? 1 : 0);
+}
+
+void tst_ViewerSession::shouldMarkUnsavedChangesInTheTitle()
+{
+    ViewerSession session(line({goodScene()}), nullptr);
+    session.start();
+    QVERIFY(session.window()->windowTitle().startsWith("good.json[*]"));
+    QVERIFY(!session.window()->isWindowModified());
+    session.overlays()->createGroup(Scene::RootId);
+    QVERIFY(session.window()->isWindowModified());
+    QVERIFY(session.document()->save());
+    QVERIFY(!session.window()->isWindowModified());
 }
 
 void tst_ViewerSession::shouldLeaveAPictureAndQuit()

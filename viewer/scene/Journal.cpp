@@ -1,0 +1,139 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "viewer/scene/Journal.h"
+
+#include "viewer/scene/OverlayService.h"
+#include "viewer/scene/SceneReader.h"
+#include "viewer/scene/SceneWriter.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSaveFile>
+#include <QUuid>
+
+namespace viewer {
+
+namespace {
+
+constexpr int Delay = 500;
+
+QString lockOf(const QString &journal)
+{
+    return journal + QLatin1String(".lock");
+}
+
+/// The lock of a journal. It holds as long as the process that took it, whatever its age.
+std::unique_ptr<QLockFile> makeLock(const QString &journal)
+{
+    auto lock = std::make_unique<QLockFile>(lockOf(journal));
+    lock->setStaleLockTime(0);
+    return lock;
+}
+
+bool isHeld(const QString &journal)
+{
+    return !makeLock(journal)->tryLock(0);
+}
+
+} // namespace
+
+// A journal is the path of the scene file in a line, then the scene as in a file at that path.
+
+Journal::Journal(OverlayService *service, const QString &folder)
+    : m_service(service)
+    , m_folder(folder)
+    , m_file(QDir(folder).filePath(QUuid::createUuid().toString(QUuid::WithoutBraces)
+                                   + QLatin1String(".journal")))
+{
+    m_due.setSingleShot(true);
+    m_due.setInterval(Delay);
+    connect(&m_due, &QTimer::timeout, this, &Journal::flush);
+    const QUndoStack *stack = service->history().stack();
+    connect(stack, &QUndoStack::indexChanged, this, &Journal::follow);
+    connect(stack, &QUndoStack::cleanChanged, this, &Journal::follow);
+}
+
+Journal::~Journal()
+{
+    QFile::remove(m_file);
+}
+
+void Journal::setPath(const QString &path)
+{
+    m_path = path;
+    follow();
+}
+
+void Journal::follow()
+{
+    if (m_service->history().stack()->isClean()) {
+        flush(); // a journal older than the saved file must never be offered
+        return;
+    }
+    // Counted from the first change that is not written: steps without end must not put it off.
+    if (!m_due.isActive())
+        m_due.start();
+}
+
+bool Journal::flush()
+{
+    m_due.stop();
+    if (m_service->history().stack()->isClean()) {
+        QFile::remove(m_file);
+        return true;
+    }
+    const bool isWritten = write();
+    if (!isWritten && !m_hasFailed)
+        emit failed(
+            tr("Unsaved work cannot be kept safe in %1.").arg(QDir::toNativeSeparators(m_folder)));
+    m_hasFailed = !isWritten;
+    return isWritten;
+}
+
+bool Journal::write()
+{
+    if (!QDir().mkpath(m_folder))
+        return false;
+    if (!m_lock) {
+        m_lock = makeLock(m_file);
+        m_lock->tryLock(0);
+    }
+    const QString scenePath = m_path.isEmpty() ? m_file : m_path;
+    QSaveFile file(m_file);
+    const QByteArray bytes = m_path.toUtf8().toPercentEncoding() + '\n'
+                             + SceneWriter::content(m_service->scene(), scenePath, nullptr);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+}
+
+QVector<LostWork> Journal::lostWork(const QString &folder)
+{
+    QVector<LostWork> found;
+    const QFileInfoList files = QDir(folder).entryInfoList(
+        {QStringLiteral("*.journal")}, QDir::Files, QDir::Time | QDir::Reversed);
+    for (const QFileInfo &info : files) {
+        QFile file(info.filePath());
+        if (isHeld(info.filePath()) || !file.open(QIODevice::ReadOnly))
+            continue;
+        const QByteArray path = QByteArray::fromPercentEncoding(file.readLine().trimmed());
+        found.append({info.filePath(), QString::fromUtf8(path), info.lastModified()});
+    }
+    return found;
+}
+
+std::optional<Scene> Journal::recover(const LostWork &work)
+{
+    QFile file(work.journal);
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    file.readLine();
+    const QString path = work.path.isEmpty() ? work.journal : work.path;
+    return SceneReader::parse(file.readAll(), path).scene;
+}
+
+void Journal::forget(const LostWork &work)
+{
+    QFile::remove(work.journal);
+}
+
+} // namespace viewer

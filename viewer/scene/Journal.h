@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "viewer/scene/Scene.h"
+
+#include <QDateTime>
+#include <QLockFile>
+#include <QObject>
+#include <QTimer>
+
+#include <memory>
+#include <optional>
+
+namespace viewer {
+
+class OverlayService;
+
+/// Work that a run left behind when it did not end properly.
+struct LostWork
+{
+    QString journal; ///< the file that holds it
+    QString path;    ///< the scene file that was open; empty for none
+    QDateTime time;  ///< of the last change in it
+};
+
+/// Keeps what is not saved yet in a file of its own, so that a crash loses no more than the last
+/// moment of work. Every step starts the writing of the whole scene, at most half a second later
+/// and never twice in that time; each writing replaces the file as a whole. The file goes when the
+/// scene is saved and with the journal itself. One for each running viewer, guarded by a lock that
+/// ends with the process; owned by the session, GUI thread only.
+class Journal : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Journals in `folder`, which is made when it is needed.
+    Journal(OverlayService *service, const QString &folder);
+    ~Journal() override;
+
+    /// The scene file that the work belongs to from now on; empty for none.
+    void setPath(const QString &path);
+
+    /// Writes now what is due. False when that failed.
+    bool flush();
+
+    /// Journals in `folder` that no running viewer holds, oldest first. Those that cannot be read
+    /// are left out.
+    static QVector<LostWork> lostWork(const QString &folder);
+
+    /// The scene in a journal; none when it is broken.
+    static std::optional<Scene> recover(const LostWork &work);
+
+    static void forget(const LostWork &work);
+
+Q_SIGNALS:
+    /// Writing failed; not sent again before it has succeeded.
+    void failed(const QString &text);
+
+private:
+    void follow();
+    bool write();
+
+    OverlayService *m_service;
+    QString m_folder;
+    QString m_file;
+    QString m_path;
+    std::unique_ptr<QLockFile> m_lock;
+    QTimer m_due;
+    bool m_hasFailed = false;
+};
+
+} // namespace viewer
