@@ -33,6 +33,15 @@ struct Start
     Picked picked = Picked::None;
 };
 
+/// What was left to the event loop must not be counted with the command.
+void settle()
+{
+    for (int i = 0; i < 10; ++i) {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+    }
+}
+
 /// Selects every row or every second one, among siblings that are shown.
 void pick(QTreeView *view, const Start &start)
 {
@@ -199,6 +208,7 @@ sides::Run measure(const Start &start, int size, const std::function<void(Side *
     return [=](benchmark::State &state) {
         for ([[maybe_unused]] auto iteration : state) {
             Side side(start, size);
+            settle();
             state.SetIterationTime(sides::secondsOf([&] { work(&side); }));
         }
     };
