@@ -100,10 +100,11 @@ bool Journal::write()
         m_lock->tryLock(0);
     }
     const QString scenePath = m_path.isEmpty() ? m_file : m_path;
+    const QByteArray content = SceneWriter::content(m_service->scene(), scenePath, nullptr);
+    const QByteArray bytes = m_path.toUtf8().toPercentEncoding() + '\n' + content;
     QSaveFile file(m_file);
-    const QByteArray bytes = m_path.toUtf8().toPercentEncoding() + '\n'
-                             + SceneWriter::content(m_service->scene(), scenePath, nullptr);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+    return !content.isNull() && file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size()
+           && file.commit();
 }
 
 QVector<LostWork> Journal::lostWork(const QString &folder)

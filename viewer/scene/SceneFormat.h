@@ -22,7 +22,10 @@ constexpr int Version = 1;
 constexpr qint64 MaxBytes = 256LL * 1024 * 1024;
 constexpr int MaxLevels = 10000;      // what an open tree view can lay out safely
 constexpr int MaxUnknownLevels = 100; // inside the value of a key that this version does not know
-constexpr double MaxNumber = 1e9;     // of either sign; far beyond any view, within a float
+constexpr int MaxNesting = 4 * MaxLevels; // of brackets in the text, whatever they mean
+constexpr int MaxValues = 5000000;
+constexpr int MaxKeys = 1000;     // of one object
+constexpr double MaxNumber = 1e9; // of either sign; far beyond any view, within a float
 
 constexpr QLatin1String Group = latin1("group");
 constexpr QLatin1String Switch = latin1("switch");

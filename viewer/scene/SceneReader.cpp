@@ -3,6 +3,7 @@
 
 #include "viewer/scene/SceneReader.h"
 
+#include "viewer/scene/JsonBounds.h"
 #include "viewer/scene/JsonRecord.h"
 #include "viewer/scene/SceneFormat.h"
 
@@ -233,6 +234,9 @@ SceneReading SceneReader::read(const QString &path)
 
 SceneReading SceneReader::parse(const QByteArray &content, const QString &path)
 {
+    const QString excess = JsonBounds(content).fault();
+    if (!excess.isEmpty())
+        return failed(path, excess);
     SceneBuilder builder(path);
     try {
         builder.build(Json::parse(content.cbegin(), content.cend()));

@@ -105,6 +105,8 @@ QByteArray SceneText::write()
             closeList();
             continue;
         }
+        if (m_levels.size() > std::size_t(sceneformat::MaxLevels))
+            return {};
         const Node &node = *m_scene.find(level.parent->children[level.next++]);
         writeHead(node);
     }
@@ -232,6 +234,12 @@ SceneWriting SceneWriter::write(const Scene &scene, const QString &path)
     SceneWriting writing;
     QSaveFile file(path);
     const QByteArray bytes = content(scene, path, &writing.warnings);
+    if (bytes.isNull()) {
+        writing.error = tr("%1: the scene cannot be written: it has more than %L2 levels of groups")
+                            .arg(QDir::toNativeSeparators(path))
+                            .arg(sceneformat::MaxLevels);
+        return writing;
+    }
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
         writing.error = tr("%1: the scene cannot be written: %2")
                             .arg(QDir::toNativeSeparators(path), file.errorString());

@@ -33,7 +33,8 @@ class SceneWriter
 public:
     static SceneWriting write(const Scene &scene, const QString &path);
 
-    /// The content of the file. `path` is what image paths are made relative to.
+    /// The content of the file; null when the scene nests deeper than a file may. `path` is what
+    /// image paths are made relative to.
     static QByteArray content(const Scene &scene, const QString &path, QStringList *warnings);
 };
 

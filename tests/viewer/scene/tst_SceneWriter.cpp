@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "tests/viewer/scene/ServiceTest.h"
+#include "viewer/scene/SceneFormat.h"
 #include "viewer/scene/SceneReader.h"
 #include "viewer/scene/SceneWriter.h"
 
@@ -30,6 +31,7 @@ private Q_SLOTS:
     void shouldReplaceNumbersThatTheFormatDoesNotKnow();
     void shouldWriteImagesRelativeToTheFile();
     void shouldWriteDeepTreesInLinearRoom();
+    void shouldRefuseTreesThatTheReaderRefuses();
     void shouldKeepTheOldFileWhenWritingFails();
 
 private:
@@ -219,6 +221,22 @@ void tst_SceneWriter::shouldKeepTheOldFileWhenWritingFails()
     QVERIFY(writing.error.startsWith(folder.filePath("taken")));
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList("scene.json"));
     QVERIFY(!SceneWriter::write(scene(), folder.filePath("no/such/folder.json")).isWritten());
+}
+
+void tst_SceneWriter::shouldRefuseTreesThatTheReaderRefuses()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("deep.json");
+    open("");
+    NodeId parent = Scene::RootId;
+    for (int level = 1; level <= viewer::sceneformat::MaxLevels; ++level)
+        parent = service().createGroup(parent);
+    QVERIFY(SceneWriter::write(scene(), path).isWritten());
+    service().createGroup(parent);
+    const SceneWriting refused = SceneWriter::write(scene(), path);
+    QVERIFY2(refused.error.contains("levels"), qPrintable(refused.error));
+    const SceneReading kept = SceneReader::read(path);
+    QVERIFY2(kept.scene, qPrintable(kept.error));
 }
 
 KX_TEST_MAIN(tst_SceneWriter)
