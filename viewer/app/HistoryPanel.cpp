@@ -11,10 +11,21 @@
 
 namespace viewer {
 
+namespace {
+
+constexpr int MarkSize = 16;
+
+} // namespace
+
 HistoryModel::HistoryModel(const QUndoStack *stack, QObject *parent)
     : QAbstractListModel(parent)
     , m_stack(stack)
+    , m_savedMark(kxIconManager::getIcon("Save", ""))
 {
+    // All texts begin at the same place.
+    QPixmap none(MarkSize, MarkSize);
+    none.fill(Qt::transparent);
+    m_noMark.addPixmap(none);
     connect(stack, &QUndoStack::indexChanged, this, &HistoryModel::refresh);
     connect(stack, &QUndoStack::cleanChanged, this, &HistoryModel::refresh);
 }
@@ -37,7 +48,7 @@ QVariant HistoryModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return index.row() == 0 ? tr("Start") : m_stack->text(index.row() - 1);
     case Qt::DecorationRole:
-        return isSaved ? QVariant(kxIconManager::getIcon("Save", "")) : QVariant();
+        return isSaved ? m_savedMark : m_noMark;
     case Qt::ToolTipRole:
     case Qt::AccessibleDescriptionRole:
         return isSaved ? tr("The scene was saved in this state") : QVariant();
@@ -60,6 +71,7 @@ HistoryPanel::HistoryPanel(OverlayService *service, QWidget *parent)
     m_list->setObjectName(QStringLiteral("historyList"));
     m_list->setAccessibleName(tr("Steps"));
     m_list->setUniformItemSizes(true);
+    m_list->setIconSize(QSize(MarkSize, MarkSize));
     m_list->setModel(m_model);
     setWidget(m_list);
     connect(m_model, &QAbstractItemModel::modelReset, this, &HistoryPanel::showCurrent);

@@ -7,6 +7,7 @@
 
 #include <QAbstractListModel>
 #include <QDockWidget>
+#include <QIcon>
 
 class QListView;
 
@@ -28,6 +29,8 @@ private:
     void refresh();
 
     const QUndoStack *m_stack;
+    QIcon m_savedMark;
+    QIcon m_noMark;
 };
 
 /// The list of steps beside the view; a click takes the scene to that state, one step after the

@@ -28,6 +28,7 @@ namespace viewer {
 namespace {
 
 constexpr QSize DefaultSize(1600, 1000);
+constexpr int HistoryWidth = 230;
 constexpr double MostOfScreen = 0.94; // what is left is for the window's frame
 
 // Raised when docks get other names, so that an old layout is not applied to them.
@@ -178,6 +179,11 @@ void MainWindow::addHistory(QDockWidget *panel)
     show->setObjectName(QStringLiteral("showHistory"));
     m_viewMenu->addSeparator();
     m_viewMenu->addAction(show);
+    // As wide as a list needs to be; the view is what the window is for.
+    connect(show, &QAction::triggered, panel, [this, panel] {
+        if (panel->isVisible() && !panel->isFloating())
+            resizeDocks({panel}, {scaled(HistoryWidth, this)}, Qt::Horizontal);
+    });
 }
 
 void MainWindow::createModulesMenu()

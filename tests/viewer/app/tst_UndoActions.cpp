@@ -160,7 +160,8 @@ void tst_UndoActions::shouldListTheSteps()
     QCOMPARE(list->model()->index(1, 0).data().toString(), QString("Create \"Text 1\""));
     QCOMPARE(list->currentIndex().row(), 1);
     m_window->service.history().setSaved();
-    QVERIFY(!list->model()->index(1, 0).data(Qt::DecorationRole).isNull());
+    QVERIFY(!list->model()->index(1, 0).data(Qt::ToolTipRole).isNull());
+    QVERIFY(list->model()->index(0, 0).data(Qt::ToolTipRole).isNull());
     m_window->service.undo();
     QCOMPARE(list->currentIndex().row(), 0);
     QVERIFY(list->model()->index(1, 0).data(Qt::ForegroundRole).isValid());
