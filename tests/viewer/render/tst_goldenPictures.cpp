@@ -28,9 +28,11 @@ struct Anchor
 const QVector<Anchor> &anchors()
 {
     static const QVector<Anchor> all{
-        {"a", {0.0, 1.0}, "#ff6b6b"}, {"b", {0.5, 1.0}, "#ffd93d"}, {"c", {1.0, 1.0}, "#6bcb77"},
-        {"d", {0.0, 0.5}, "#4d96ff"}, {"e", {0.5, 0.5}, "#ffffff"}, {"f", {1.0, 0.5}, "#c77dff"},
-        {"g", {0.0, 0.0}, "#ff9f45"}, {"h", {0.5, 0.0}, "#45e0d0"}, {"i", {1.0, 0.0}, "#ff85c0"}};
+        {"a", {0.0, 1.0}, {255, 107, 107}}, {"b", {0.5, 1.0}, {255, 217, 61}},
+        {"c", {1.0, 1.0}, {107, 203, 119}}, {"d", {0.0, 0.5}, {77, 150, 255}},
+        {"e", {0.5, 0.5}, {255, 255, 255}}, {"f", {1.0, 0.5}, {199, 125, 255}},
+        {"g", {0.0, 0.0}, {255, 159, 69}},  {"h", {0.5, 0.0}, {69, 224, 208}},
+        {"i", {1.0, 0.0}, {255, 133, 192}}};
     return all;
 }
 
@@ -38,10 +40,10 @@ const QVector<Anchor> &anchors()
 QImage flag()
 {
     QImage image(48, 32, QImage::Format_RGB32);
-    image.fill(QColor("#e9c46a"));
+    image.fill(QColor(233, 196, 106));
     QPainter painter(&image);
-    painter.fillRect(0, 0, 24, 16, QColor("#264653"));
-    painter.fillRect(36, 24, 12, 8, QColor("#e76f51"));
+    painter.fillRect(0, 0, 24, 16, QColor(38, 70, 83));
+    painter.fillRect(36, 24, 12, 8, QColor(231, 111, 81));
     return image;
 }
 
@@ -172,7 +174,7 @@ void tst_goldenPictures::shouldMixBackgroundsByTransparency()
     open("d e f h");
     for (const char *node : {"d", "e", "f", "h"}) {
         write(node, "Mix", 20.0F);
-        service().setBackgroundColor(ids(node), QColor("#2a9d8f"));
+        service().setBackgroundColor(ids(node), QColor(42, 157, 143));
     }
     placeAtAnchors();
     service().setBackgroundTransparency(ids("d"), Qt::black);
@@ -190,7 +192,7 @@ void tst_goldenPictures::shouldStackSiblingsAndLeaveOutTheInactive()
         write(node, QString("Node %1").arg(node), 24.0F);
     placeAtAnchors();
     service().setPosition(ids("d"), {0.5, 0.5});
-    service().setBackgroundColor(ids("e"), QColor("#e76f51"));
+    service().setBackgroundColor(ids("e"), QColor(231, 111, 81));
     service().setBackgroundTransparency(ids("e"), QColor(90, 90, 90));
     service().setOffsetX(ids("e"), 30.0F);
     service().setOffsetY(ids("e"), -9.0F);
