@@ -16,6 +16,8 @@ NodeList knownNodes(const Scene &scene, const NodeList &nodes)
 {
     NodeList known;
     QSet<NodeId> seen;
+    seen.reserve(nodes.size());
+    known.reserve(nodes.size());
     for (const NodeId id : nodes) {
         if (id == Scene::RootId || seen.contains(id) || !scene.find(id))
             continue;
@@ -62,6 +64,7 @@ Branches branchesTo(const Scene &scene, const NodeList &nodes)
 {
     Branches branches;
     QSet<NodeId> reached;
+    reached.reserve(nodes.size());
     for (const NodeId id : nodes) {
         const Node *node = scene.find(id);
         while (node && node->parent != 0 && !reached.contains(node->id)) {

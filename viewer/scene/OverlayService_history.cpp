@@ -143,21 +143,18 @@ void OverlayService::restore(Direction direction)
 
 void OverlayService::announceRestored(const Step &step, const NodeFates &fates)
 {
-    QMap<Property, QSet<NodeId>> changed;
+    QMap<Property, NodeList> changed;
     for (const SceneChange &change : step.changes) {
-        for (const SceneChange::Value &value : change.values) {
-            if (m_scene.find(value.node))
-                changed[value.property].insert(value.node);
-        }
+        for (const SceneChange::Value &value : change.values)
+            changed[value.property].append(value.node);
     }
-    const auto changedIn = [&](Property property) { return changed.value(property).values(); };
-    const NodeList enabled = changedIn(Property::Enabled) + reachedBy(fates.moved);
+    const NodeList enabled = changed.take(Property::Enabled) + reachedBy(fates.moved);
     // Nothing of the step is asked for once slots run: they may change the history.
     announceStructure(&kxOverlayService::nodesAdded, fates.added);
     announcePlaces(knownNodes(m_scene, fates.moved));
     announceStructure(&kxOverlayService::nodesRemoved, fates.removed);
     for (auto it = changed.cbegin(); it != changed.cend(); ++it)
-        announceValue(it.key(), inTreeOrder(m_scene, knownNodes(m_scene, it->values())));
+        announceValue(it.key(), inTreeOrder(m_scene, knownNodes(m_scene, *it)));
     announce(&kxOverlayService::enabledStateChanged,
              inTreeOrder(m_scene, knownNodes(m_scene, enabled)));
 }

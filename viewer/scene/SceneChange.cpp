@@ -178,6 +178,7 @@ void SceneChange::apply(Scene *scene, Direction direction)
     applyValues(scene, direction, true);
     lift(scene, from);
     if (to.empty()) {
+        m_records.reserve(from.size());
         for (const Place &place : from)
             keep(scene->take(place.node));
     } else if (from.empty()) {
