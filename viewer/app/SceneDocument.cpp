@@ -140,6 +140,7 @@ bool SceneDocument::write(const QString &file)
 void SceneDocument::setPath(const QString &path)
 {
     m_path = path;
+    m_service->setImageFolder(path.isEmpty() ? QString() : QFileInfo(path).absolutePath());
     emit pathChanged(path);
 }
 

@@ -49,6 +49,11 @@ public:
     /// The history starts anew, with the scene taken for saved.
     void setScene(Scene scene);
 
+    /// The folder that relative image paths mean, which setImage() makes absolute; empty for the
+    /// current one. So a path means one file to whoever draws, shows or writes it, wherever the scene
+    /// is saved later.
+    void setImageFolder(const QString &folder) { m_imageFolder = folder; }
+
     /// What can be undone, and whether the scene is saved.
     History &history() { return m_history; }
 
@@ -139,6 +144,7 @@ private:
     void write(Operation operation, Property property, const QRPC::NodeList &nodes,
                const PropertyValue &value);
     void announceValue(Property property, const QRPC::NodeList &nodes);
+    QString imageFile(const QString &path) const;
 
     // nodes
     Node newNode(NodeKind kind);
@@ -156,6 +162,7 @@ private:
 
     Scene m_scene;
     History m_history{&m_scene};
+    QString m_imageFolder;
     QHash<int, int> m_highestNumbers; // by kind: the highest number that a counted name has had
     int m_announcedMoves = 0;         // moves that are being announced, one inside the other
     std::queue<std::function<void()>> m_postponed;

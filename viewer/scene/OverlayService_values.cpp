@@ -4,6 +4,8 @@
 #include "viewer/scene/NodeLists.h"
 #include "viewer/scene/OverlayService.h"
 
+#include <QDir>
+
 namespace viewer {
 
 using QRPC::NodeId;
@@ -134,8 +136,16 @@ void OverlayService::setBackgroundTransparency(const NodeList &nodes, const QCol
     write(Operation::SetBackgroundTransparency, Property::BackgroundTransparency, nodes, color);
 }
 
-void OverlayService::setImage(const NodeList &nodes, const QString &path)
+QString OverlayService::imageFile(const QString &path) const
 {
+    if (path.isEmpty() || QDir::isAbsolutePath(path))
+        return path;
+    return QDir::cleanPath(QDir(m_imageFolder).absoluteFilePath(path));
+}
+
+void OverlayService::setImage(const NodeList &nodes, const QString &given)
+{
+    const QString path = imageFile(given);
     NodeList concerned =
         change(Operation::SetImage, Property::Image, nodes, [&path](const Node &) { return path; });
     if (!path.isEmpty()) {

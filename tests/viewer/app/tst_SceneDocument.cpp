@@ -7,6 +7,7 @@
 #include "viewer/app/FileActions.h"
 
 #include <QAction>
+#include <QDir>
 #include <QMenu>
 #include <QSettings>
 #include <QSignalSpy>
@@ -56,6 +57,7 @@ private Q_SLOTS:
     void shouldKeepAllWhenSavingFails();
     void shouldKeepAllWhenAFileIsBad();
     void shouldBeUnmodifiedWhereItWasSaved();
+    void shouldTakeImagesFromTheFoldersOfItsFiles();
     void shouldListRecentFiles();
 
 private:
@@ -198,6 +200,33 @@ void tst_SceneDocument::shouldBeUnmodifiedWhereItWasSaved()
     QVERIFY(m_document->isModified());
     m_service->redo();
     QVERIFY(!m_document->isModified());
+}
+
+void tst_SceneDocument::shouldTakeImagesFromTheFoldersOfItsFiles()
+{
+    QVERIFY(QDir(m_folder->path()).mkpath("scenes"));
+    const QRPC::NodeId node = m_service->createOverlay(Scene::RootId);
+    const auto imageSetTo = [this, node](const QString &path) {
+        m_service->setImage({node}, path);
+        return m_service->getImage(node);
+    };
+    QCOMPARE(imageSetTo("x.png"), QDir::current().filePath("x.png"));
+    m_answers->file = file("scenes/a.json");
+    QVERIFY(m_document->saveAs());
+    QCOMPARE(imageSetTo("x.png"), file("scenes/x.png"));
+    m_answers->file = file("b.json"); // what was set stays the file that it was
+    QVERIFY(m_document->saveAs());
+    QCOMPARE(m_service->getImage(node), file("scenes/x.png"));
+    QVERIFY(m_document->load(file("b.json")));
+    const QRPC::NodeId read = m_service->getChild(Scene::RootId, 0);
+    QCOMPARE(m_service->getImage(read), file("scenes/x.png"));
+    m_service->setImage({read}, "x.png");
+    QCOMPARE(m_service->getImage(read), file("x.png"));
+    m_answers->answer = Answer::Discard;
+    m_document->startNew();
+    const QRPC::NodeId fresh = m_service->createOverlay(Scene::RootId);
+    m_service->setImage({fresh}, "x.png");
+    QCOMPARE(m_service->getImage(fresh), QDir::current().filePath("x.png"));
 }
 
 void tst_SceneDocument::shouldListRecentFiles()

@@ -33,6 +33,7 @@ private Q_SLOTS:
     void shouldShowTheScene();
     void shouldDrawTheSamePixelsAsAnExport();
     void shouldReadAnImageAnewWhenItsPathIsSet();
+    void shouldDrawAnImageOfTheScenesFolder();
     void shouldReadImagesAnewWithEachScene();
     void shouldLeaveTheOpenSceneWhenAFileIsBad_data();
     void shouldLeaveTheOpenSceneWhenAFileIsBad();
@@ -197,6 +198,19 @@ void tst_ViewerSession::shouldReadAnImageAnewWhenItsPathIsSet()
     const QRPC::NodeId node = overlays->getChild(overlays->getRootNode(), 0);
     overlays->setImage({node}, overlays->getImage(node));
     QCOMPARE(middleOf(session), QColor(Qt::blue));
+}
+
+void tst_ViewerSession::shouldDrawAnImageOfTheScenesFolder()
+{
+    QImage file(8, 8, QImage::Format_RGB32);
+    file.fill(Qt::red);
+    QVERIFY(file.save(m_folder->filePath("colour.png")));
+    ViewerSession session(line({write("image.json", scene(imageOverlay("")))}), nullptr);
+    session.start();
+    QVERIFY(middleOf(session) != QColor(Qt::red));
+    OverlayService *overlays = session.overlays();
+    overlays->setImage({overlays->getChild(overlays->getRootNode(), 0)}, "colour.png");
+    QCOMPARE(middleOf(session), QColor(Qt::red));
 }
 
 void tst_ViewerSession::shouldReadImagesAnewWithEachScene()

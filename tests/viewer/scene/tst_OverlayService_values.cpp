@@ -3,6 +3,8 @@
 
 #include "tests/viewer/scene/ServiceTest.h"
 
+#include <QDir>
+
 #include <cmath>
 #include <limits>
 
@@ -95,6 +97,8 @@ private Q_SLOTS:
     void shouldAnnounceOnlyWhatChanged();
     void shouldNameGroupsToo();
     void shouldReadAnImageAnewWhenItsPathIsWrittenAgain();
+    void shouldMakeImagePathsAbsolute_data();
+    void shouldMakeImagePathsAbsolute();
     void shouldClearAnImageOnce();
     void shouldListParentsBeforeChildren();
     void shouldEnable_data();
@@ -168,6 +172,44 @@ void tst_OverlayService_values::shouldReadAnImageAnewWhenItsPathIsWrittenAgain()
     service().setImage(ids("b"), "/x.png");
     QCOMPARE(signalLines(), QStringList({"imageFileSet /x.png", "imageChanged b"}));
     QCOMPARE(service().getImage(id("a")), QString("/x.png"));
+}
+
+void tst_OverlayService_values::shouldMakeImagePathsAbsolute_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QString>("given");
+    QTest::addColumn<QString>("path");
+    QTest::newRow("in the folder") << "/s"
+                                   << "p/x.png"
+                                   << "/s/p/x.png";
+    QTest::newRow("beside the folder") << "/s/t"
+                                       << "../x.png"
+                                       << "/s/x.png";
+    QTest::newRow("absolute") << "/s"
+                              << "/p/x.png"
+                              << "/p/x.png";
+    QTest::newRow("in the program") << "/s"
+                                    << ":/x.png"
+                                    << ":/x.png";
+    QTest::newRow("none") << "/s"
+                          << ""
+                          << "";
+    QTest::newRow("without a folder") << ""
+                                      << "x.png" << QDir::current().filePath("x.png");
+}
+
+void tst_OverlayService_values::shouldMakeImagePathsAbsolute()
+{
+    QFETCH(QString, folder);
+    QFETCH(QString, given);
+    QFETCH(QString, path);
+    open("a");
+    service().setImageFolder(folder);
+    service().setImage(ids("a"), "/before.png");
+    signalLines();
+    service().setImage(ids("a"), given);
+    QCOMPARE(service().getImage(id("a")), path);
+    QCOMPARE(signalLines().contains("imageFileSet " + path), !path.isEmpty());
 }
 
 void tst_OverlayService_values::shouldClearAnImageOnce()
