@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 
 #include "host/kxKernelServiceFactory.h"
+#include "overlayeditor/model/kxOverlayItem.h"
 #include "tests/overlayeditor/model/ModelTest.h"
+
+#include <QDataStream>
 
 namespace {
 
@@ -44,6 +47,7 @@ private Q_SLOTS:
     void shouldFindALateIdWithoutReadingOtherRows();
     void shouldFindAnItemAgainWhoseEntryIsGone();
     void shouldForgetAnItemThatIsDestroyed();
+    void shouldForgetADestroyedItemWhoseIdWasReadAnew();
     void shouldClearTheMapWithAReset();
     void shouldKeepTheEntryOfARemovedNode();
     void shouldBuildOnlyWhatIsMissing();
@@ -233,6 +237,25 @@ void tst_kxOverlayQtModel_ids::shouldForgetAnItemThatIsDestroyed()
     QCOMPARE(model().itemFromId(3), nullptr);
     QCOMPARE(model().itemFromId(2), nullptr);
     QVERIFY(model().itemFromId(4));
+}
+
+/// Reading an item from a stream replaces its id without a word. What is looked up afterwards under
+/// the first id must not reach the destroyed item.
+void tst_kxOverlayQtModel_ids::shouldForgetADestroyedItemWhoseIdWasReadAnew()
+{
+    fill("a2");
+    QByteArray bytes;
+    QDataStream writer(&bytes, QIODevice::WriteOnly);
+    kxOverlayItem(7).write(writer);
+    auto *item = new kxOverlayItem(5);
+    QDataStream reader(bytes);
+    item->read(reader);
+    QCOMPARE(model().getNodeId(item), 7U);
+    model().appendRow(item);
+    model().removeRow(item->row());
+    s_itemMap.clear();
+    QCOMPARE(model().itemFromId(5), nullptr);
+    QCOMPARE(model().itemFromId(7), nullptr);
 }
 
 void tst_kxOverlayQtModel_ids::shouldClearTheMapWithAReset()
