@@ -67,8 +67,8 @@ UndoActions::UndoActions(OverlayService *service, QMenu *menu)
 QAction *UndoActions::add(QMenu *menu, const char *icon, const char *name,
                           QKeySequence::StandardKey key, Command command)
 {
-    QAction *action = menu->addAction(kxIconManager::getIcon(icon, ""), QString(), this,
-                                      [this, command] { (m_service->*command)(); });
+    QAction *action = menu->addAction(kxIconManager::getIcon(icon, ""), QString());
+    connect(action, &QAction::triggered, m_service, command);
     action->setObjectName(QLatin1String(name));
     action->setShortcuts(key);
     return action;
