@@ -44,6 +44,8 @@ private:
         QMenu *menu = menuBar()->addMenu(QStringLiteral("Edit"));
         UndoActions *actions = new UndoActions(&service, menu);
 
+        ~Window() override { delete actions; } // while the service is there
+
         QAction *undo() const { return menu->actions().at(0); }
         QAction *redo() const { return menu->actions().at(1); }
         const QUndoStack &stack() { return *service.history().stack(); }
