@@ -19,7 +19,8 @@ QFont referenceFont(const QString &family)
     QFont font(family);
     font.setPixelSize(200);
     font.setHintingPreference(QFont::PreferNoHinting);
-    font.setStyleStrategy(QFont::StyleStrategy(QFont::PreferAntialias | QFont::ForceOutline));
+    font.setStyleStrategy(QFont::StyleStrategy(QFont::PreferAntialias | QFont::NoSubpixelAntialias
+                                               | QFont::ForceOutline));
     return font;
 }
 

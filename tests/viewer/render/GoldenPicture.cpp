@@ -15,7 +15,7 @@ namespace {
 
 constexpr int Trace = 24; // of 255; one step of antialiasing is 16
 
-QString kept(const QString &name)
+QString keptFile(const QString &name)
 {
     return QStringLiteral(GOLDEN_PICTURES "/%1.png").arg(name);
 }
@@ -33,18 +33,21 @@ bool differs(QRgb a, QRgb b)
 QString fault(const QImage &drawn, const QString &name)
 {
     if (qEnvironmentVariableIsSet("KX_RENEW_GOLDEN")) {
-        return drawn.save(kept(name)) ? QString()
-                                      : QStringLiteral("cannot write %1").arg(kept(name));
+        return drawn.save(keptFile(name)) ? QString()
+                                          : QStringLiteral("cannot write %1").arg(keptFile(name));
     }
-    const int count = differingPixels(drawn, QImage(kept(name)));
+    const QImage kept(keptFile(name));
+    const int count = differingPixels(drawn, kept);
     if (count <= Tolerated)
         return {};
     QDir().mkpath(QStringLiteral(GOLDEN_RESULTS));
     const QString written = QStringLiteral(GOLDEN_RESULTS "/%1.png").arg(name);
+    const QString marked = QStringLiteral(GOLDEN_RESULTS "/%1-difference.png").arg(name);
     drawn.save(written);
-    return QStringLiteral("%1 pixels differ from %2; this was drawn: %3")
+    difference(drawn, kept).save(marked);
+    return QStringLiteral("%1 pixels differ from %2; this was drawn: %3; the differences: %4")
         .arg(count)
-        .arg(kept(name), written);
+        .arg(keptFile(name), written, marked);
 }
 
 int differingPixels(const QImage &drawn, const QImage &kept)
@@ -57,6 +60,19 @@ int differingPixels(const QImage &drawn, const QImage &kept)
             count += differs(drawn.pixel(x, y), kept.pixel(x, y)) ? 1 : 0;
     }
     return count;
+}
+
+QImage difference(const QImage &drawn, const QImage &kept)
+{
+    QImage marked(drawn.size(), QImage::Format_RGB32);
+    for (int y = 0; y < drawn.height(); ++y) {
+        for (int x = 0; x < drawn.width(); ++x) {
+            const bool isKept = kept.valid(x, y) && !differs(drawn.pixel(x, y), kept.pixel(x, y));
+            const int faint = isKept ? 192 + qGray(kept.pixel(x, y)) / 4 : 0;
+            marked.setPixel(x, y, isKept ? qRgb(faint, faint, faint) : qRgb(255, 0, 0));
+        }
+    }
+    return marked;
 }
 
 QString loadFont()

@@ -7,6 +7,9 @@
 
 #include <QPainter>
 #include <QTemporaryDir>
+#include <QWidget>
+
+#include <functional>
 
 using QRPC::NodeList;
 using viewer::ImageCache;
@@ -36,11 +39,32 @@ const QVector<Anchor> &anchors()
     return all;
 }
 
+/// A view on a screen, as far as the painter can tell.
+class Canvas : public QWidget
+{
+public:
+    explicit Canvas(std::function<void(QPainter *)> draw) : m_draw(std::move(draw))
+    {
+        resize(View);
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        painter.fillRect(rect(), Paper);
+        m_draw(&painter);
+    }
+
+private:
+    const std::function<void(QPainter *)> m_draw;
+};
+
 /// A picture without symmetry: a mirrored, turned or cut one shows.
-QImage flag()
+QImage flag(const QColor &color)
 {
     QImage image(48, 32, QImage::Format_RGB32);
-    image.fill(QColor(233, 196, 106));
+    image.fill(color);
     QPainter painter(&image);
     painter.fillRect(0, 0, 24, 16, QColor(38, 70, 83));
     painter.fillRect(36, 24, 12, 8, QColor(231, 111, 81));
@@ -56,6 +80,8 @@ class tst_goldenPictures : public ServiceTest
 private Q_SLOTS:
     void initTestCase();
     void shouldTellALineThatMovedByAPixel();
+    void shouldMarkWhatDiffers();
+    void shouldDrawOnAWidgetAsInAPicture();
     void shouldDrawNineAnchors_data();
     void shouldDrawNineAnchors();
     void shouldMoveByTheOffset();
@@ -64,8 +90,10 @@ private Q_SLOTS:
     void shouldStackSiblingsAndLeaveOutTheInactive();
 
 private:
+    void drawOn(QPainter *painter);
     QImage drawn();
     void write(const QString &node, const QString &text, float size);
+    QString pictureOf(const QString &node) const { return m_folder.filePath(node + ".png"); }
     void showPicture(const QString &node);
     void placeAtAnchors();
 
@@ -77,17 +105,23 @@ void tst_goldenPictures::initTestCase()
 {
     m_family = golden::loadFont();
     QCOMPARE(m_family, QString("Overlay Test Sans"));
-    QVERIFY(flag().save(m_folder.filePath("flag.png")));
+    for (const Anchor &anchor : anchors())
+        QVERIFY(flag(anchor.color).save(pictureOf(anchor.node)));
+}
+
+void tst_goldenPictures::drawOn(QPainter *painter)
+{
+    ImageCache images;
+    OverlayPainter overlays(scene(), images);
+    overlays.paint(*painter, View, 96.0);
 }
 
 QImage tst_goldenPictures::drawn()
 {
     QImage image(View, QImage::Format_RGB32);
     image.fill(Paper);
-    ImageCache images;
-    OverlayPainter overlays(scene(), images);
     QPainter painter(&image);
-    overlays.paint(painter, View, 96.0);
+    drawOn(&painter);
     return image;
 }
 
@@ -102,7 +136,7 @@ void tst_goldenPictures::write(const QString &node, const QString &text, float s
 void tst_goldenPictures::showPicture(const QString &node)
 {
     service().setOverlayType(ids(node), 1);
-    service().setImage(ids(node), m_folder.filePath("flag.png"));
+    service().setImage(ids(node), pictureOf(node));
 }
 
 void tst_goldenPictures::placeAtAnchors()
@@ -121,6 +155,33 @@ void tst_goldenPictures::shouldTellALineThatMovedByAPixel()
     service().setOffsetX(ids("a"), 0.75F); // a pixel at 96 dots per inch
     QVERIFY(golden::differingPixels(drawn(), before) > 2 * golden::Tolerated);
     QCOMPARE(golden::differingPixels(before, before), 0);
+}
+
+void tst_goldenPictures::shouldMarkWhatDiffers()
+{
+    QImage kept(4, 1, QImage::Format_RGB32);
+    kept.fill(QColor(90, 90, 90));
+    QImage drawn = kept;
+    drawn.setPixelColor(0, 0, QColor(100, 90, 90)); // a trace
+    drawn.setPixelColor(1, 0, QColor(90, 90, 130));
+    const QColor red(255, 0, 0);
+    const QImage marked = golden::difference(drawn, kept);
+    QVERIFY(marked.pixelColor(0, 0) != red);
+    QCOMPARE(marked.pixelColor(1, 0), red);
+    QVERIFY(marked.pixelColor(2, 0) != red);
+    QCOMPARE(golden::difference(drawn, kept.copy(0, 0, 2, 1)).pixelColor(3, 0), red);
+}
+
+// Of an opaque widget a desktop may ask for letters with coloured edges.
+void tst_goldenPictures::shouldDrawOnAWidgetAsInAPicture()
+{
+    open("d e");
+    write("d", "Edges", 12.0F);
+    write("e", "iiill", 9.0F);
+    service().setFontColor(ids("d e"), Qt::white);
+    service().setPosition(ids("d"), {0.0, 0.5});
+    Canvas canvas([this](QPainter *painter) { drawOn(painter); });
+    QCOMPARE(canvas.grab().toImage().convertToFormat(QImage::Format_RGB32), drawn());
 }
 
 void tst_goldenPictures::shouldDrawNineAnchors_data()
