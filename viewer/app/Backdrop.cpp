@@ -61,9 +61,14 @@ Backdrop::Backdrop(QWidget *parent) : QWidget(parent)
 void Backdrop::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    paintWall(&painter, rect());
-    paintFloor(&painter, rect());
+    paint(&painter, rect());
     emit painted();
+}
+
+void Backdrop::paint(QPainter *painter, const QRect &area)
+{
+    paintWall(painter, area);
+    paintFloor(painter, area);
 }
 
 } // namespace viewer

@@ -16,6 +16,9 @@ class Backdrop : public QWidget
 public:
     explicit Backdrop(QWidget *parent = nullptr);
 
+    /// Paints what the widget shows into an area at the painter's origin; for exports.
+    static void paint(QPainter *painter, const QRect &area);
+
 Q_SIGNALS:
     /// One frame is painted.
     void painted();

@@ -6,8 +6,16 @@
 #include "viewer/app/ModuleLoader.h"
 
 #include <QCommandLineParser>
+#include <QRect>
 
 namespace viewer {
+
+namespace {
+
+constexpr int LargestSide = 32767; // that the raster engine can draw
+constexpr double LargestDpi = 10000;
+
+} // namespace
 
 CommandLine::CommandLine(const QStringList &arguments)
 {
@@ -26,13 +34,14 @@ CommandLine::CommandLine(const QStringList &arguments)
         QStringLiteral("screenshot"),
         tr("Save a picture of the window once all is shown, and quit."), tr("file"));
     parser.addOptions({help, plugin, noGl, picture});
+    addHeadlessOptions(&parser);
     parser.addPositionalArgument(tr("scene"), tr("Scene file to open."), tr("[scene.json]"));
 
     if (!parser.parse(arguments)) {
         fail(parser.errorText());
     } else if (parser.isSet(help)) {
         outcome = Outcome::Answer;
-        text = parser.helpText();
+        text = parser.helpText() + exitCodes();
     } else if (parser.isSet(version)) {
         outcome = Outcome::Answer;
         text = QStringLiteral("%1 %2\n").arg(QCoreApplication::applicationName(),
@@ -48,6 +57,80 @@ CommandLine::CommandLine(const QStringList &arguments)
         plugins.append(ModuleLoader::defaultPlugin());
     screenshot = parser.value(picture);
     withoutGl = parser.isSet(noGl);
+    if (outcome == Outcome::Run)
+        readHeadless(parser);
+}
+
+void CommandLine::addHeadlessOptions(QCommandLineParser *parser)
+{
+    parser->addOptions({
+        {QStringLiteral("headless"), tr("Run without window and display; ask nothing.")},
+        {QStringLiteral("scene"), tr("Open this scene."), tr("file")},
+        {QStringLiteral("save"), tr("Headless: save the scene."), tr("file")},
+        {QStringLiteral("export"), tr("Headless: save a picture of the view."), tr("file")},
+        {QStringLiteral("size"), tr("Size of the exported picture; 1920x1080 unless given."),
+         tr("WIDTHxHEIGHT")},
+        {QStringLiteral("dpi"), tr("Dots per inch of the exported picture; 96 unless given."),
+         tr("number")},
+        {QStringLiteral("transparent"), tr("Export without backdrop.")},
+    });
+}
+
+QString CommandLine::exitCodes()
+{
+    return tr("\nA headless run returns:\n"
+              "  0  all was done\n"
+              "  2  the arguments are wrong\n"
+              "  3  done, but a picture of the scene cannot be read; a placeholder was drawn\n"
+              "  4  the scene cannot be read\n"
+              "  5  the scene or the picture cannot be written\n"
+              "  6  a module cannot be loaded\n");
+}
+
+void CommandLine::readHeadless(const QCommandLineParser &parser)
+{
+    headless.isOn = parser.isSet(QStringLiteral("headless"));
+    headless.save = parser.value(QStringLiteral("save"));
+    headless.picture = parser.value(QStringLiteral("export"));
+    headless.isTransparent = parser.isSet(QStringLiteral("transparent"));
+    for (const char *option : {"save", "export", "size", "dpi", "transparent"}) {
+        const QString name = QString::fromLatin1(option);
+        if (!headless.isOn && parser.isSet(name))
+            fail(tr("The option --%1 needs --headless.").arg(name));
+        else if (name != QLatin1String("transparent") && parser.isSet(name)
+                 && parser.value(name).isEmpty())
+            fail(tr("The option --%1 needs a value.").arg(name));
+    }
+    if (parser.isSet(QStringLiteral("scene"))) {
+        if (!scene.isEmpty())
+            fail(tr("Only one scene can be opened."));
+        scene = parser.value(QStringLiteral("scene"));
+    }
+    if (parser.isSet(QStringLiteral("size")))
+        readSize(parser.value(QStringLiteral("size")));
+    if (parser.isSet(QStringLiteral("dpi")))
+        readDpi(parser.value(QStringLiteral("dpi")));
+}
+
+void CommandLine::readSize(const QString &given)
+{
+    const QStringList sides = given.split(QLatin1Char('x'));
+    headless.size = QSize(sides.value(0).toInt(), sides.value(1).toInt());
+    const QRect possible(1, 1, LargestSide, LargestSide);
+    if (sides.size() != 2 || !possible.contains(headless.size.width(), headless.size.height()))
+        fail(tr("The size \"%1\" is none: 3840x2160 would be one, up to %2 in each direction.")
+                 .arg(given)
+                 .arg(LargestSide));
+}
+
+void CommandLine::readDpi(const QString &given)
+{
+    headless.dpi = given.toDouble();
+    // Written so that a value which is no number fails too.
+    if (!(headless.dpi >= 1 && headless.dpi <= LargestDpi))
+        fail(tr("The dots per inch must be a number from 1 to %1, and \"%2\" is none.")
+                 .arg(LargestDpi)
+                 .arg(given));
 }
 
 QStringList CommandLine::takePlugins(int *count, char **arguments)

@@ -4,9 +4,23 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QSize>
 #include <QStringList>
 
+class QCommandLineParser;
+
 namespace viewer {
+
+/// What a run without window writes. A plain value; part of the command line.
+struct Headless
+{
+    bool isOn = false;
+    QString save;    ///< scene file; empty: none
+    QString picture; ///< empty: none
+    QSize size{1920, 1080};
+    double dpi = 96; ///< dots per inch, by which points become pixels
+    bool isTransparent = false;
+};
 
 /// What the user asked for on the command line. A plain value; read once, by the main program.
 class CommandLine
@@ -31,8 +45,14 @@ public:
     QStringList plugins; ///< in the order of loading, at least one
     QString screenshot;  ///< empty: run until the user quits
     bool withoutGl = false;
+    Headless headless;
 
 private:
+    static void addHeadlessOptions(QCommandLineParser *parser);
+    static QString exitCodes();
+    void readHeadless(const QCommandLineParser &parser);
+    void readSize(const QString &given);
+    void readDpi(const QString &given);
     void fail(const QString &reason);
 };
 

@@ -4,6 +4,7 @@
 #include "host/kxIconManager.h"
 #include "host/kxStyle.h"
 #include "viewer/app/CommandLine.h"
+#include "viewer/app/HeadlessRun.h"
 #include "viewer/app/ViewerSession.h"
 
 #include <QApplication>
@@ -37,8 +38,15 @@ int answer(const viewer::CommandLine &line)
     return fault ? 2 : 0;
 }
 
+bool isHeadless(const char *argument)
+{
+    return std::strcmp(argument, "--headless") == 0;
+}
+
 int run(const viewer::CommandLine &line)
 {
+    if (line.headless.isOn)
+        return viewer::HeadlessRun(line).run();
     QApplication::setApplicationDisplayName(
         QCoreApplication::translate("viewer", "Overlay Viewer"));
     QApplication::setStyle(new kxStyle);
@@ -60,6 +68,9 @@ int main(int argc, char **argv)
         return answer(viewer::CommandLine(QCoreApplication::arguments()));
     }
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    // Pixmaps and fonts need a GUI application, and a batch run has no display for one.
+    if (std::any_of(argv + 1, argv + argc, isHeadless))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     const QStringList plugins = viewer::CommandLine::takePlugins(&argc, argv);
     const QApplication application(argc, argv);
     const viewer::CommandLine line(QCoreApplication::arguments() + plugins);
