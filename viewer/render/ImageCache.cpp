@@ -64,16 +64,16 @@ ImageCache::Entry &ImageCache::entry(const QString &path)
     return *it;
 }
 
-QImage ImageCache::image(const QString &path)
+const QImage &ImageCache::image(const QString &path)
 {
     return entry(path).image;
 }
 
-QImage ImageCache::scaledImage(const QString &path, const QSize &size)
+const QImage &ImageCache::scaledImage(const QString &path, const QSize &size)
 {
     Entry &found = entry(path);
     if (found.image.isNull())
-        return {};
+        return found.image;
     for (const QImage &scaled : qAsConst(found.scaled)) {
         if (scaled.size() == size)
             return scaled;

@@ -18,10 +18,12 @@ class ImageCache
 public:
     /// The picture; a null image when the file is missing, cannot be read or is larger than memory
     /// and painter can bear. A picture of more than 8192 pixels in a direction is read smaller.
-    QImage image(const QString &path);
+    /// The reference holds until the file is forgotten.
+    const QImage &image(const QString &path);
 
-    /// The picture in exactly this size. The last few sizes of each file are kept.
-    QImage scaledImage(const QString &path, const QSize &size);
+    /// The picture in exactly this size. The last few sizes of each file are kept; the
+    /// reference holds until the next call.
+    const QImage &scaledImage(const QString &path, const QSize &size);
 
     /// Makes the next call read the file anew.
     void forget(const QString &path);

@@ -14,6 +14,27 @@ using QRPC::NodeId;
 
 namespace {
 
+/// Width and height of a picture for a height of 1; of the placeholder where there is none.
+QSizeF proportionsOf(const QImage &image)
+{
+    return image.isNull() ? QSizeF(16.0 / 9.0, 1.0)
+                          : QSizeF(double(image.width()) / image.height(), 1.0);
+}
+
+QRectF boxFor(const Overlay &overlay, const QSizeF &proportions, const ViewGeometry &view)
+{
+    const QSizeF size = proportions * heightInPixels(overlay, view);
+    return size.isEmpty() ? QRectF() : placeBox(overlay, size, view);
+}
+
+/// Whether any of an overlay with this box can lie in the view.
+bool isSeen(const QRectF &box, const ViewGeometry &view)
+{
+    const double margin = box.height(); // at least what a background adds
+    const QRectF reach = box.adjusted(-margin, -margin, margin, margin);
+    return !box.isEmpty() && reach.intersects(QRectF(QPointF(), view.size));
+}
+
 /// Stands for an image that cannot be read: a dashed frame with the file's name.
 void paintPlaceholder(QPainter &painter, const QString &path, const QRectF &box)
 {
@@ -54,8 +75,10 @@ void OverlayPainter::paint(QPainter &painter, const QSize &size, double dpi)
         pending.pop_back();
         if (!node.enabled)
             continue;
-        if (node.isOverlay())
-            paintOverlay(painter, node, view);
+        if (node.isOverlay() && node.overlay.isText())
+            paintText(painter, node, view);
+        else if (node.isOverlay())
+            paintImage(painter, node.overlay, view);
         pending.insert(pending.end(), node.children.rbegin(), node.children.rend());
     }
     painter.restore();
@@ -71,11 +94,10 @@ QRectF OverlayPainter::boxOf(NodeId node, const QSize &size, double dpi)
 QRectF OverlayPainter::box(const Node &node, const ViewGeometry &view)
 {
     const Overlay &overlay = node.overlay;
-    const double height = heightInPixels(overlay, view);
-    const QSizeF proportions =
-        overlay.isText() ? textOf(node).size() : imageProportions(overlay.image);
-    const QSizeF size = proportions * height;
-    return size.isEmpty() ? QRectF() : placeBox(overlay, size, view);
+    if (overlay.isText())
+        return boxFor(overlay, textOf(node).size(), view);
+    const QString &path = overlay.image;
+    return path.isEmpty() ? QRectF() : boxFor(overlay, proportionsOf(m_images.image(path)), view);
 }
 
 const TextBlock &OverlayPainter::textOf(const Node &node)
@@ -90,32 +112,13 @@ const TextBlock &OverlayPainter::textOf(const Node &node)
     return *cached.block;
 }
 
-/// Width and height of the picture for a height of 1; of the placeholder where there is none.
-QSizeF OverlayPainter::imageProportions(const QString &path)
-{
-    if (path.isEmpty())
-        return {};
-    const QSizeF size = m_images.image(path).size();
-    return size.isEmpty() ? QSizeF(16.0 / 9.0, 1.0) : QSizeF(size.width() / size.height(), 1.0);
-}
-
-void OverlayPainter::paintOverlay(QPainter &painter, const Node &node, const ViewGeometry &view)
-{
-    const QRectF area = box(node, view);
-    const double margin = area.height(); // at least what a background adds
-    const QRectF reach = area.adjusted(-margin, -margin, margin, margin);
-    if (area.isEmpty() || !reach.intersects(QRectF(QPointF(), view.size)))
-        return;
-    if (node.overlay.isText())
-        paintText(painter, node, area);
-    else
-        paintImage(painter, node.overlay.image, area);
-}
-
-void OverlayPainter::paintText(QPainter &painter, const Node &node, const QRectF &box)
+void OverlayPainter::paintText(QPainter &painter, const Node &node, const ViewGeometry &view)
 {
     const Overlay &overlay = node.overlay;
     const TextBlock &block = textOf(node);
+    const QRectF box = boxFor(overlay, block.size(), view);
+    if (!isSeen(box, view))
+        return;
     const QColor background = backgroundColor(overlay);
     if (background.isValid() && background.alpha() > 0)
         painter.fillRect(backgroundBox(box, box.height() / block.size().height()), background);
@@ -123,9 +126,15 @@ void OverlayPainter::paintText(QPainter &painter, const Node &node, const QRectF
         block.draw(&painter, box, overlay.fontColor, std::clamp(overlay.position.x(), 0.0, 1.0));
 }
 
-void OverlayPainter::paintImage(QPainter &painter, const QString &path, const QRectF &box)
+void OverlayPainter::paintImage(QPainter &painter, const Overlay &overlay, const ViewGeometry &view)
 {
-    const QImage image = m_images.image(path);
+    const QString &path = overlay.image;
+    if (path.isEmpty())
+        return;
+    const QImage &image = m_images.image(path);
+    const QRectF box = boxFor(overlay, proportionsOf(image), view);
+    if (!isSeen(box, view))
+        return;
     const QSize pixels = box.size().toSize().expandedTo(QSize(1, 1));
     if (image.isNull())
         paintPlaceholder(painter, path, box);

@@ -52,11 +52,9 @@ private:
     };
 
     const TextBlock &textOf(const Node &node);
-    QSizeF imageProportions(const QString &path);
     QRectF box(const Node &node, const ViewGeometry &view);
-    void paintOverlay(QPainter &painter, const Node &node, const ViewGeometry &view);
-    void paintText(QPainter &painter, const Node &node, const QRectF &box);
-    void paintImage(QPainter &painter, const QString &path, const QRectF &box);
+    void paintText(QPainter &painter, const Node &node, const ViewGeometry &view);
+    void paintImage(QPainter &painter, const Overlay &overlay, const ViewGeometry &view);
     void forgetRemovedTexts();
 
     const Scene &m_scene;

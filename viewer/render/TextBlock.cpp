@@ -55,7 +55,9 @@ double widthOf(const QTextLayout &line)
 TextBlock::TextBlock(const QString &text, const QString &family)
 {
     const QFont font = referenceFont(family);
-    m_lineHeight = QFontMetricsF(font).ascent() + QFontMetricsF(font).descent();
+    const QFontMetricsF metrics(font);
+    m_ascent = metrics.ascent();
+    m_lineHeight = m_ascent + metrics.descent();
     double width = 0.0;
     const QStringList lines = linesOf(text);
     for (const QString &line : lines) {
@@ -70,7 +72,6 @@ void TextBlock::draw(QPainter *painter, const QRectF &box, const QColor &color,
 {
     const double scale = box.height() / (double(m_lines.size()) * m_lineHeight);
     const double width = m_size.width() * m_lineHeight;
-    const double ascent = QFontMetricsF(m_lines.front()->font()).ascent();
     painter->save();
     painter->translate(box.topLeft());
     painter->scale(scale, scale);
@@ -78,7 +79,7 @@ void TextBlock::draw(QPainter *painter, const QRectF &box, const QColor &color,
     double top = 0.0;
     for (const std::unique_ptr<QTextLayout> &line : m_lines) {
         // A fallback font may stand higher than the family; the baseline stays where it is.
-        const double rise = line->lineCount() > 0 ? line->lineAt(0).ascent() - ascent : 0.0;
+        const double rise = line->lineCount() > 0 ? line->lineAt(0).ascent() - m_ascent : 0.0;
         line->draw(painter, QPointF(alignment * (width - widthOf(*line)), top - rise));
         top += m_lineHeight;
     }

@@ -33,7 +33,8 @@ public:
 
 private:
     QSizeF m_size;
-    double m_lineHeight = 1.0; // in the units of the layouts
+    double m_ascent = 0.0; // as the line height in the units of the layouts
+    double m_lineHeight = 1.0;
     std::vector<std::unique_ptr<QTextLayout>> m_lines;
 };
 
