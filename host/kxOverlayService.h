@@ -138,8 +138,8 @@ public:
     /// root cannot be deleted.
     virtual void deleteNodes(const QRPC::NodeList &nodes) = 0;
 
-    /// Puts nodes, ordered as moveNodes() orders them, into a new group at the place of one of them.
-    /// Announced as: the empty group by nodesAdded(), the move by nodesMoved(), then nodesCreated().
+    /// Puts nodes, ordered as moveNodes() orders them, into a new group at the place of the first of
+    /// them in the order of the tree. Announced as: the empty group by nodesAdded(), the move by nodesMoved(), then nodesCreated().
     virtual void groupNodes(const QRPC::NodeList &nodes) = 0;
 
     /// Moves nodes under `newParent`, before the child that stands at `row` when the call is made;

@@ -160,6 +160,7 @@ private:
     void deselect(const QModelIndexList &rows);
     void applySizeConstraints();
     void createSizeAndPositionView();
+    void orderFocus();
     void takeRepeatedChoices();
     void registerShortcuts();
     bool handleKey(const QKeyEvent *event);

@@ -14,6 +14,8 @@
 #include <QIcon>
 #include <QPointF>
 
+#include <initializer_list>
+
 namespace {
 
 /// Anchors of an overlay on the view: x from left (0) to right (1), y from bottom (0) to top (1).
@@ -23,10 +25,18 @@ struct Anchor
     QPointF position;
 };
 
+/// The part of a control that takes the focus for it: what shall follow the control follows it.
+QWidget *focusPart(QWidget *control)
+{
+    return control->focusProxy() ? focusPart(control->focusProxy()) : control;
+}
+
 } // namespace
 
 void kxOverlayEditor::createPropertiesView()
 {
+    orderFocus();
+
     kxConnect(m_window->_overlay_name, SIGNAL(editingFinished()), this, SLOT(nameChanged()));
 
     auto *typeButtons = new QButtonGroup(this);
@@ -85,6 +95,23 @@ void kxOverlayEditor::createSizeAndPositionView()
     m_window->_offset_y_spin_box->setRange(-limit, limit);
     kxConnect(m_window->_offset_y_spin_box, SIGNAL(valueChanged(double)), this,
               SLOT(offsetYChanged(double)));
+}
+
+/// Tab goes down the panel, frame by frame; the form makes the widgets in another order. The header of
+/// a frame stands before its page already, and the image behind the other rows of its frame.
+void kxOverlayEditor::orderFocus()
+{
+    const std::initializer_list<QWidget *> frames[] = {
+        {m_window->_overlay_name, m_window->_text_radio_button, m_window->_image_radio_button,
+         m_window->_text_edit, m_window->_font_combo_box, m_window->_color_slider,
+         m_window->_background_slider, m_window->_transparency_slider},
+        {m_window->_absolute_radio_button, m_window->_relative_radio_button, m_window->_size_slider,
+         m_window->_position_combo_box, m_window->_offset_x_spin_box, m_window->_offset_y_spin_box},
+    };
+    for (const std::initializer_list<QWidget *> &controls : frames) {
+        for (auto control = controls.begin(); control + 1 != controls.end(); ++control)
+            QWidget::setTabOrder(focusPart(*control), *(control + 1));
+    }
 }
 
 /// A list box tells only of another choice. The one that it has is news too where it hides different

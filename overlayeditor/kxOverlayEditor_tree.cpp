@@ -55,6 +55,7 @@ void kxOverlayEditor::createTreeView()
     layout->addWidget(m_searchBox);
     layout->addWidget(m_treeView);
     frame->setLayout(layout);
+    QWidget::setTabOrder(m_searchBox, m_treeView);
 }
 
 QRPC::NodeList kxOverlayEditor::getSelectedNodes() const

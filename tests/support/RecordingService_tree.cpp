@@ -223,9 +223,14 @@ void RecordingService::groupNodes(const QRPC::NodeList &nodes)
     const QString line = noteWrite("groupNodes", nodes, QString());
     const QVector<Node *> members = m_applies ? tops(nodes) : QVector<Node *>();
     if (!members.isEmpty()) {
-        Node *parent = members.first()->parent;
+        const QRPC::NodeList order = allIds();
+        Node *topmost = *std::min_element(members.begin(), members.end(),
+                                          [&order](const Node *a, const Node *b) {
+                                              return order.indexOf(a->id) < order.indexOf(b->id);
+                                          });
+        Node *parent = topmost->parent;
         const QString name = QStringLiteral("n%1").arg(m_nextId);
-        Node *group = adopt(parent, parent->children.indexOf(members.first()),
+        Node *group = adopt(parent, parent->children.indexOf(topmost),
                             notation::Node{name, m_nextId, Kind::Group, true, {}});
         QRPC::NodeList changed;
         enterDisabled({group}, &changed);

@@ -205,7 +205,7 @@ void tst_RecordingService::shouldAnnounceAGroupBeforeItsMembersMove()
 {
     m_service->build(QStringLiteral("a2 b3 c4"));
     m_service->groupNodes({4, 2});
-    QCOMPARE(shape(*m_service), QStringLiteral("b3 n5(a2 c4)"));
+    QCOMPARE(shape(*m_service), QStringLiteral("n5(a2 c4) b3"));
     QCOMPARE(m_signals.first(), QStringLiteral("added 5"));
     QCOMPARE(m_signals.at(1), QStringLiteral("moved 2,4"));
     QCOMPARE(m_signals.last(), QStringLiteral("created 5"));

@@ -47,7 +47,8 @@ private Q_SLOTS:
     void shouldFindALateIdWithoutReadingOtherRows();
     void shouldFindAnItemAgainWhoseEntryIsGone();
     void shouldForgetAnItemThatIsDestroyed();
-    void shouldForgetADestroyedItemWhoseIdWasReadAnew();
+    void shouldForgetADestroyedItemUnderItsFirstIdToo_data();
+    void shouldForgetADestroyedItemUnderItsFirstIdToo();
     void shouldClearTheMapWithAReset();
     void shouldKeepTheEntryOfARemovedNode();
     void shouldBuildOnlyWhatIsMissing();
@@ -239,17 +240,28 @@ void tst_kxOverlayQtModel_ids::shouldForgetAnItemThatIsDestroyed()
     QVERIFY(model().itemFromId(4));
 }
 
-/// Reading an item from a stream replaces its id without a word. What is looked up afterwards under
-/// the first id must not reach the destroyed item.
-void tst_kxOverlayQtModel_ids::shouldForgetADestroyedItemWhoseIdWasReadAnew()
+void tst_kxOverlayQtModel_ids::shouldForgetADestroyedItemUnderItsFirstIdToo_data()
 {
+    QTest::addColumn<bool>("isRead");
+    QTest::newRow("set anew") << false;
+    QTest::newRow("read from a stream, which replaces it without a word") << true;
+}
+
+/// What is looked up under the first id must not reach the destroyed item.
+void tst_kxOverlayQtModel_ids::shouldForgetADestroyedItemUnderItsFirstIdToo()
+{
+    QFETCH(bool, isRead);
     fill("a2");
-    QByteArray bytes;
-    QDataStream writer(&bytes, QIODevice::WriteOnly);
-    kxOverlayItem(7).write(writer);
     auto *item = new kxOverlayItem(5);
-    QDataStream reader(bytes);
-    item->read(reader);
+    if (isRead) {
+        QByteArray bytes;
+        QDataStream writer(&bytes, QIODevice::WriteOnly);
+        kxOverlayItem(7).write(writer);
+        QDataStream reader(bytes);
+        item->read(reader);
+    } else {
+        item->setData(7U, kxOverlayItem::NodeIdRole);
+    }
     QCOMPARE(model().getNodeId(item), 7U);
     model().appendRow(item);
     model().removeRow(item->row());

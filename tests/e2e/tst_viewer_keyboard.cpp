@@ -1,0 +1,251 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "host/kxStyle.h"
+#include "tests/support/KxTest.h"
+#include "tests/support/RealInput.h"
+#include "viewer/app/ViewerSession.h"
+
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QScreen>
+#include <QScrollArea>
+#include <QSpinBox>
+#include <QTreeView>
+
+using namespace viewer;
+
+/// A scene built and rearranged with the keyboard alone. After each step tree and service are the
+/// same, and a picture of the screen is left in the build folder to look at. One test function,
+/// because the editor of a process is created once.
+class tst_viewer_keyboard : public KxTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void shouldDoItAllByKeyboard();
+
+private:
+    void reachTheTree();
+    void createFromTheMenu();
+    void rename();
+    void keepKeysInTheNameEditor();
+    void group();
+    void reorder();
+    void search();
+    void remove();
+    void walkThroughThePanel();
+
+    void choose(int entry);
+    void check(const QString &step, const QString &tree);
+    QString shown(const QModelIndex &parent = {}) const;
+    QString stored(QRPC::NodeId parent) const;
+
+    ViewerSession *m_session = nullptr;
+    QTreeView *m_tree = nullptr;
+    int m_pictures = 0;
+};
+
+void tst_viewer_keyboard::initTestCase()
+{
+    QApplication::setStyle(new kxStyle);
+    QDir pictures(QStringLiteral(PICTURES));
+    pictures.removeRecursively();
+    QVERIFY(pictures.mkpath("."));
+}
+
+QString tst_viewer_keyboard::shown(const QModelIndex &parent) const
+{
+    QStringList parts;
+    for (int row = 0; row < m_tree->model()->rowCount(parent); ++row) {
+        const QModelIndex index = m_tree->model()->index(row, 0, parent);
+        const QString below = shown(index);
+        parts << index.data().toString() + (below.isEmpty() ? QString() : '(' + below + ')');
+    }
+    return parts.join(' ');
+}
+
+QString tst_viewer_keyboard::stored(QRPC::NodeId parent) const
+{
+    OverlayService &service = *m_session->overlays();
+    QStringList parts;
+    for (int row = 0; row < service.getChildCount(parent); ++row) {
+        const QRPC::NodeId node = service.getChild(parent, row);
+        const QString below = stored(node);
+        parts << service.getName(node) + (below.isEmpty() ? QString() : '(' + below + ')');
+    }
+    return parts.join(' ');
+}
+
+void tst_viewer_keyboard::check(const QString &step, const QString &tree)
+{
+    QTRY_COMPARE(shown(), tree);
+    QCOMPARE(stored(m_session->overlays()->getRootNode()), tree);
+    const QString file = QStringLiteral(PICTURES "/%1-%2.png").arg(++m_pictures, 2, 10, QChar('0'));
+    QCoreApplication::processEvents();
+    QVERIFY(m_session->window()->screen()->grabWindow(0).save(file.arg(step)));
+}
+
+void tst_viewer_keyboard::shouldDoItAllByKeyboard()
+{
+    const CommandLine line({"overlay-viewer", "--plugin", EDITOR_PLUGIN});
+    ViewerSession session(line, nullptr);
+    m_session = &session;
+    session.start();
+    m_tree = session.window()->findChild<QTreeView *>();
+    QVERIFY(m_tree);
+    QVERIFY(QTest::qWaitForWindowActive(session.window(), 30000));
+    reachTheTree();
+    createFromTheMenu();
+    rename();
+    keepKeysInTheNameEditor();
+    group();
+    reorder();
+    search();
+    remove();
+    walkThroughThePanel();
+}
+
+void tst_viewer_keyboard::reachTheTree()
+{
+    for (int presses = 0; presses < 40 && !m_tree->hasFocus(); ++presses) {
+        const QWidget *before = QApplication::focusWidget();
+        realInput::key("Tab");
+        QTRY_VERIFY(QApplication::focusWidget() != before);
+    }
+    QVERIFY(m_tree->hasFocus());
+}
+
+/// Opens the menu of the tree by its key and goes down to an entry, counted from 1.
+void tst_viewer_keyboard::choose(int entry)
+{
+    realInput::key("Menu");
+    // The menu runs in an event loop of its own, out of which the next keys are sent.
+    for (int i = 0; i < entry; ++i)
+        realInput::key("Down");
+    realInput::key("Return");
+    QTRY_VERIFY(!QApplication::activePopupWidget());
+}
+
+void tst_viewer_keyboard::createFromTheMenu()
+{
+    choose(1);
+    check("created", "Text 1");
+    QVERIFY(m_tree->hasFocus());
+    choose(1);
+    check("created-another", "Text 1 Text 2");
+    QCOMPARE(m_tree->selectionModel()->selectedRows().size(), 1);
+}
+
+void tst_viewer_keyboard::rename()
+{
+    realInput::key("ctrl+r");
+    QTRY_VERIFY(qobject_cast<QLineEdit *>(QApplication::focusWidget()));
+    realInput::type("Gate");
+    realInput::key("Return");
+    check("renamed", "Text 1 Gate");
+    QTRY_VERIFY(m_tree->hasFocus());
+}
+
+void tst_viewer_keyboard::keepKeysInTheNameEditor()
+{
+    realInput::key("ctrl+r");
+    QTRY_VERIFY(qobject_cast<QLineEdit *>(QApplication::focusWidget()));
+    realInput::type("Door");
+    for (const char *key : {"ctrl+d", "ctrl+t", "ctrl+g", "ctrl+i", "Delete", "ctrl+f"})
+        realInput::key(key);
+    auto *editor = qobject_cast<QLineEdit *>(QApplication::focusWidget());
+    QTRY_COMPARE(editor->text(), QString("Door"));
+    realInput::key("Escape");
+    QTRY_VERIFY(m_tree->hasFocus());
+    check("name-editor-left", "Text 1 Gate");
+    const QModelIndex gate = m_tree->model()->index(1, 0);
+    QCOMPARE(gate.data(Qt::CheckStateRole).toInt(), int(Qt::Checked));
+}
+
+void tst_viewer_keyboard::group()
+{
+    realInput::key("ctrl+a");
+    QTRY_COMPARE(m_tree->selectionModel()->selectedRows().size(), 2);
+    realInput::key("ctrl+shift+g");
+    check("grouped", "Group 1(Text 1 Gate)");
+    realInput::key("ctrl+g");
+    check("group-in-group", "Group 1(Text 1 Gate Group 2)");
+}
+
+void tst_viewer_keyboard::reorder()
+{
+    realInput::key("alt+Left");
+    check("moved-out", "Group 1(Text 1 Gate) Group 2");
+    realInput::key("alt+Up");
+    check("moved-up", "Group 2 Group 1(Text 1 Gate)");
+    realInput::key("alt+Down");
+    check("moved-down", "Group 1(Text 1 Gate) Group 2");
+    realInput::key("alt+Right");
+    check("moved-in", "Group 1(Text 1 Gate Group 2)");
+}
+
+void tst_viewer_keyboard::search()
+{
+    realInput::key("ctrl+f");
+    QTRY_VERIFY(qobject_cast<QLineEdit *>(QApplication::focusWidget()));
+    realInput::type("Gate");
+    const auto *guide = m_session->window()->findChild<QLabel *>("searchGuide");
+    QTRY_COMPARE(guide->text(), QString("1 found\n1 selected, but hidden by the search"));
+    check("searched", "Group 1(Text 1 Gate Group 2)");
+    realInput::key("Down");
+    QTRY_VERIFY(m_tree->hasFocus());
+    realInput::key("ctrl+f");
+    QTRY_VERIFY(!m_tree->hasFocus());
+    realInput::key("Escape");
+    QTRY_VERIFY(!guide->isVisible());
+    realInput::key("Down");
+    QTRY_VERIFY(m_tree->hasFocus());
+}
+
+void tst_viewer_keyboard::remove()
+{
+    realInput::key("Delete");
+    check("deleted", "Group 1(Text 1 Gate)");
+    realInput::key("Home");
+    realInput::key("Down");
+    QTRY_COMPARE(m_tree->currentIndex().data().toString(), QString("Text 1"));
+}
+
+/// From the tree on, each Tab goes to another control, which shows that it has the focus, until the
+/// panel has been walked through from top to bottom.
+void tst_viewer_keyboard::walkThroughThePanel()
+{
+    const auto *panel = m_session->window()->findChild<QScrollArea *>("_property_scrollArea");
+    int lastTop = -1;
+    int controls = 0;
+    for (int presses = 0; presses < 40; ++presses) {
+        const QWidget *before = QApplication::focusWidget();
+        realInput::key("Tab");
+        QTRY_VERIFY(QApplication::focusWidget() != before);
+        QWidget *control = QApplication::focusWidget();
+        if (!panel->isAncestorOf(control)) {
+            if (controls > 0)
+                break;
+            continue;
+        }
+        ++controls;
+        const int top = control->mapTo(panel, QPoint()).y() - panel->widget()->y();
+        QVERIFY2(top + control->height() > lastTop, qPrintable(control->objectName()));
+        lastTop = top;
+        QCoreApplication::processEvents();
+        const QImage focused = control->grab().toImage();
+        control->clearFocus();
+        const QImage plain = control->grab().toImage();
+        control->setFocus(Qt::TabFocusReason);
+        QVERIFY2(focused != plain, qPrintable(control->objectName()));
+    }
+    QVERIFY2(controls >= 10, qPrintable(QString::number(controls)));
+    check("walked-through", "Group 1(Text 1 Gate)");
+}
+
+KX_TEST_MAIN(tst_viewer_keyboard)
+#include "tst_viewer_keyboard.moc"
