@@ -63,7 +63,7 @@ void tst_examples::shouldShowEveryExampleAndFollowMouseAndKeys()
     ViewerSession session(CommandLine({"overlay-viewer", "--plugin", EDITOR_PLUGIN}), nullptr);
     m_session = &session;
     session.start();
-    QVERIFY(QTest::qWaitForWindowActive(session.window()));
+    QVERIFY(becomesActive(session.window()));
     graphicsDriver::keepLoaded();
     const QDockWidget *panel = session.window()->modulePanels()->dock("Overlay Editor");
     QVERIFY(panel);

@@ -97,7 +97,7 @@ void tst_viewer_keyboard::shouldDoItAllByKeyboard()
     session.start();
     m_tree = session.window()->findChild<QTreeView *>();
     QVERIFY(m_tree);
-    QVERIFY(QTest::qWaitForWindowActive(session.window(), 30000));
+    QVERIFY(becomesActive(session.window()));
     reachTheTree();
     createFromTheMenu();
     rename();

@@ -156,7 +156,7 @@ void tst_viewer_panel::openScene(ViewerSession *session)
     session->start();
     m_tree = session->window()->findChild<QTreeView *>();
     QVERIFY(m_tree);
-    QVERIFY(QTest::qWaitForWindowActive(session->window()));
+    QVERIFY(becomesActive(session->window()));
     m_edited = {node("Title"), node("Subtitle")};
 }
 

@@ -139,7 +139,7 @@ void tst_viewer_reorder::shouldRearrangeTheScene()
     session.start();
     m_tree = session.window()->findChild<QTreeView *>();
     QVERIFY(m_tree);
-    QVERIFY(QTest::qWaitForWindowActive(session.window()));
+    QVERIFY(becomesActive(session.window()));
     QCOMPARE(session.window()->viewArea()->notices()->texts(), QStringList());
 
     moveByKey();
@@ -232,7 +232,7 @@ void tst_viewer_reorder::listShortcuts()
     m_session->window()->findChild<QAction *>("keyboardShortcutsEntry")->trigger();
     auto *dialog = m_session->window()->findChild<QDialog *>("keyboardShortcuts");
     QVERIFY(dialog);
-    QVERIFY(QTest::qWaitForWindowActive(dialog));
+    QVERIFY(becomesActive(dialog));
     auto *list = dialog->findChild<QTreeWidget *>();
     QCOMPARE(list->topLevelItemCount(), 2);
     QCOMPARE(list->topLevelItem(1)->text(0), QString("Overlay Editor"));

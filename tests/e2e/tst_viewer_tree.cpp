@@ -69,7 +69,7 @@ void tst_viewer_tree::shouldFollowMouseAndKeys()
     session.start();
     m_tree = session.window()->findChild<QTreeView *>();
     QVERIFY(m_tree);
-    QVERIFY(QTest::qWaitForWindowActive(session.window()));
+    QVERIFY(becomesActive(session.window()));
 
     selectByMouse();
     selectByKeys();

@@ -77,7 +77,7 @@ void tst_viewer_typing::shouldSendAndPaintOncePerKey()
     const CommandLine line({"overlay-viewer", scene, "--plugin", EDITOR_PLUGIN});
     ViewerSession session(line, nullptr);
     session.start();
-    QVERIFY(QTest::qWaitForWindowActive(session.window()));
+    QVERIFY(becomesActive(session.window()));
     selectAll(&session);
     pressAndCount(&session);
 }

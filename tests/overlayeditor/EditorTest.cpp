@@ -23,7 +23,7 @@ void EditorTest::showWindow()
     widget.resize(700, 600);
     widget.show();
     widget.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&widget));
+    QVERIFY(becomesActive(&widget));
 }
 
 kxOverlayEditorGUIW &EditorTest::window()

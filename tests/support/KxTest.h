@@ -28,6 +28,18 @@ private:
     std::unique_ptr<MessageGuard> m_guard;
 };
 
+/// Waits until a shown window has the keyboard. Asks for it again and again: on a busy machine the
+/// window manager may have passed the window over.
+inline bool becomesActive(QWidget *window)
+{
+    for (int seconds = 0; seconds < 30; ++seconds) {
+        if (QTest::qWaitForWindowActive(window, 1000))
+            return true;
+        window->activateWindow();
+    }
+    return false;
+}
+
 /// Runs the test class T as a program with widgets in the host's style settings.
 template<class T>
 int runKxTest(int argc, char **argv)
