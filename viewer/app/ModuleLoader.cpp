@@ -13,8 +13,11 @@ namespace viewer {
 
 QString ModuleLoader::defaultPlugin()
 {
-    return QDir(QCoreApplication::applicationDirPath())
-        .filePath(QStringLiteral("overlayeditor.so"));
+    const QDir folder(QCoreApplication::applicationDirPath());
+    const QString beside = folder.filePath(QStringLiteral("overlayeditor.so"));
+    const QString installed = QDir::cleanPath(
+        folder.filePath(QStringLiteral(OVERLAY_VIEWER_PLUGINDIR "/overlayeditor.so")));
+    return QFileInfo(beside).isFile() ? beside : installed;
 }
 
 QString ModuleLoader::load(const QString &file)

@@ -16,7 +16,8 @@ class ModuleLoader
     Q_DECLARE_TR_FUNCTIONS(viewer::ModuleLoader)
 
 public:
-    /// The plug-in that is loaded when the user names none: the editor beside the executable.
+    /// The plug-in that is loaded when the user names none: the editor beside the executable, as in
+    /// the folder of a build, or else where it is installed.
     static QString defaultPlugin();
 
     /// Loads the library and calls its entry. Returns what went wrong, naming the file and the
