@@ -2,11 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 // How long undo takes after each kind of operation on all nodes of a scene, and how that grows with
-// the scene; with it, reading and writing the scene's file.
+// the scene.
 
 #include "viewer/scene/OverlayService.h"
-#include "viewer/scene/SceneReader.h"
-#include "viewer/scene/SceneWriter.h"
 
 #include <benchmark/benchmark.h>
 
@@ -66,28 +64,6 @@ void undo(benchmark::State &state, Operation operation)
     }
 }
 
-QByteArray fileOf(const OverlayService &service)
-{
-    return viewer::SceneWriter::content(service.scene(), QStringLiteral("/tmp/a.json"), nullptr);
-}
-
-void write(benchmark::State &state)
-{
-    OverlayService service;
-    fill(&service, int(state.range(0)));
-    for (auto _ : state)
-        benchmark::DoNotOptimize(fileOf(service));
-}
-
-void read(benchmark::State &state)
-{
-    OverlayService service;
-    fill(&service, int(state.range(0)));
-    const QByteArray file = fileOf(service);
-    for (auto _ : state)
-        benchmark::DoNotOptimize(viewer::SceneReader::parse(file, QStringLiteral("/tmp/a.json")));
-}
-
 void atBothSizes(benchmark::internal::Benchmark *benchmark)
 {
     benchmark->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
@@ -104,8 +80,6 @@ int main(int argc, char **argv)
             (std::string("undo ") + entry.name).c_str(),
             [operation](benchmark::State &state) { undo(state, operation); }));
     }
-    atBothSizes(benchmark::RegisterBenchmark("write", write));
-    atBothSizes(benchmark::RegisterBenchmark("read", read));
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

@@ -92,6 +92,8 @@ private:
 
 QByteArray SceneText::write()
 {
+    constexpr int usualSize = 512; // of an overlay; room that is made once costs nothing
+    m_text.reserve(usualSize * m_scene.nodeCount());
     m_text = "{";
     m_indent = 1;
     key("format", jsonText(sceneformat::Name));
@@ -121,13 +123,14 @@ void SceneText::newLine()
     if (!m_first)
         m_text += ',';
     m_first = false;
-    m_text += '\n' + QByteArray(2 * std::min(m_indent, deepest), ' ');
+    static const QByteArray blanks(2 * deepest, ' ');
+    m_text.append('\n').append(blanks.constData(), 2 * std::min(m_indent, deepest));
 }
 
 void SceneText::key(const QByteArray &name, const QByteArray &value)
 {
     newLine();
-    m_text += '"' + name + "\": " + value;
+    m_text.append('"').append(name).append("\": ").append(value);
 }
 
 void SceneText::openList(const QByteArray &name, const Node &parent)
