@@ -8,9 +8,9 @@
 #include "bench/Sides.h"
 #include "bench/TreeCase.h"
 #include "host/kxKernelServiceFactory.h"
+#include "kit/HostFixture.h"
 #include "overlayeditor/kxOverlayEditor.h"
 #include "overlayeditor/kxOverlayEditorGUIW.h"
-#include "tests/support/HostFixture.h"
 
 #include <QApplication>
 

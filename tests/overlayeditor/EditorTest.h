@@ -3,12 +3,12 @@
 
 #pragma once
 
+#include "kit/HostFixture.h"
+#include "kit/TreeDump.h"
 #include "overlayeditor/kxOverlayEditor.h"
 #include "overlayeditor/kxOverlayEditorGUIW.h"
 #include "overlayeditor/model/kxOverlayQtModel.h"
-#include "tests/support/HostFixture.h"
 #include "tests/support/KxTest.h"
-#include "tests/support/TreeDump.h"
 
 #include <QTreeView>
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "tests/support/RecordingService.h"
+#include "kit/RecordingService.h"
 
 #include <QMap>
 

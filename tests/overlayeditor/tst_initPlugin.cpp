@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "host/kxShortcut.h"
-#include "tests/support/HostFixture.h"
+#include "kit/HostFixture.h"
 #include "tests/support/KxTest.h"
 
 #include <QLibrary>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "tests/support/MessageGuard.h"
+#include "kit/MessageGuard.h"
 
 #include <QObject>
 #include <QtTest>
@@ -50,6 +50,13 @@ int runKxTest(int argc, char **argv)
     QTEST_SET_MAIN_SOURCE_PATH
     return QTest::qExec(&test, argc, argv);
 }
+
+/// Fails the test function when the model does not show the service's tree (kit/TreeDump.h).
+#define KX_COMPARE_TREE(model, service)                                                            \
+    do {                                                                                           \
+        const QString difference = treeDifference(model, service);                                 \
+        QVERIFY2(difference.isEmpty(), qPrintable(difference));                                    \
+    } while (false)
 
 #define KX_TEST_MAIN(T)                                                                            \
     int main(int argc, char **argv)                                                                \

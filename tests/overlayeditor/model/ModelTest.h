@@ -3,11 +3,11 @@
 
 #pragma once
 
+#include "kit/HostFixture.h"
+#include "kit/TreeDump.h"
 #include "overlayeditor/model/kxOverlayItemMap.h"
 #include "overlayeditor/model/kxOverlayQtModel.h"
-#include "tests/support/HostFixture.h"
 #include "tests/support/KxTest.h"
-#include "tests/support/TreeDump.h"
 
 #include <QAbstractItemModelTester>
 

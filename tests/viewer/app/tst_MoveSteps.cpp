@@ -3,9 +3,9 @@
 
 #include "viewer/app/MoveSteps.h"
 
+#include "kit/RecordingService.h"
+#include "kit/TreeDump.h"
 #include "tests/support/KxTest.h"
-#include "tests/support/RecordingService.h"
-#include "tests/support/TreeDump.h"
 
 using namespace viewer;
 

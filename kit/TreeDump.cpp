@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: the Overlay Editor authors
 // SPDX-License-Identifier: MIT
 
-#include "tests/support/TreeDump.h"
+#include "kit/TreeDump.h"
 
 #include "host/kxStyle.h"
-#include "tests/support/RecordingService.h"
+#include "kit/RecordingService.h"
 
 #include <QBrush>
 #include <QStandardItemModel>

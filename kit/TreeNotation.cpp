@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: the Overlay Editor authors
 // SPDX-License-Identifier: MIT
 
-#include "tests/support/TreeNotation.h"
+#include "kit/TreeNotation.h"
 
 #include <QDebug>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: the Overlay Editor authors
 // SPDX-License-Identifier: MIT
 
-#include "tests/support/RecordingService.h"
+#include "kit/RecordingService.h"
 
 #include <QRegularExpression>
 #include <QSet>

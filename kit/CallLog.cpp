@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: the Overlay Editor authors
 // SPDX-License-Identifier: MIT
 
-#include "tests/support/CallLog.h"
+#include "kit/CallLog.h"
 
 #include <numeric>
 

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "host/kxKernelServiceFactory.h"
-#include "tests/support/HostFixture.h"
+#include "kit/HostFixture.h"
+#include "kit/RecordingService.h"
 #include "tests/support/KxTest.h"
-#include "tests/support/RecordingService.h"
 
 namespace {
 

@@ -18,10 +18,3 @@ QString dumpTree(const QStandardItemModel &model);
 
 /// Empty when the model shows the service's tree; else both dumps from their first difference on.
 QString treeDifference(const QStandardItemModel &model, const RecordingService &service);
-
-/// Fails the test function when the model does not show the service's tree.
-#define KX_COMPARE_TREE(model, service)                                                            \
-    do {                                                                                           \
-        const QString difference = treeDifference(model, service);                                 \
-        QVERIFY2(difference.isEmpty(), qPrintable(difference));                                    \
-    } while (false)

@@ -7,8 +7,8 @@
 #include "host/kxFileIOService.h"
 #include "host/kxMainWindowService.h"
 #include "host/kxPlatformService.h"
-#include "tests/support/CallLog.h"
-#include "tests/support/RecordingService.h"
+#include "kit/CallLog.h"
+#include "kit/RecordingService.h"
 
 #include <QIcon>
 #include <QMainWindow>

@@ -4,8 +4,8 @@
 #pragma once
 
 #include "host/kxOverlayService.h"
-#include "tests/support/CallLog.h"
-#include "tests/support/TreeNotation.h"
+#include "kit/CallLog.h"
+#include "kit/TreeNotation.h"
 
 #include <QVector>
 

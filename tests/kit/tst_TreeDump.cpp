@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "host/kxStyle.h"
+#include "kit/RecordingService.h"
+#include "kit/TreeDump.h"
 #include "tests/support/KxTest.h"
-#include "tests/support/RecordingService.h"
-#include "tests/support/TreeDump.h"
 
 #include <QBrush>
 #include <QStandardItemModel>

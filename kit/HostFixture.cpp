@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: the Overlay Editor authors
 // SPDX-License-Identifier: MIT
 
-#include "tests/support/HostFixture.h"
+#include "kit/HostFixture.h"
 
 #include "host/kxKernelServiceFactory.h"
 #include "host/kxShortcut.h"
