@@ -17,9 +17,9 @@ class SliderHandle;
 /// Owner: its parent widget. Called by modules; GUI thread only. The range binds the handle alone:
 /// a typed or given value may lie outside it on both sides, and the handle then stands at its end.
 /// Dragging moves in line steps, typing is sent when it is committed. The wheel changes the value
-/// only while handle or field has the focus. While the slider is marked "multiselect" its value is
-/// not that of all nodes: no handle is drawn, a press anywhere sets the value of its place,
-/// and an edit is sent even when it gives the value last shown.
+/// only while handle or field has the focus; Tab goes to the field alone. While the slider is marked
+/// "multiselect" its value is not that of all nodes: no handle is drawn, a press anywhere sets the
+/// value of its place, and an edit is sent even when it gives the value last shown.
 class KXHOST_EXPORT QKXSlider : public QWidget
 {
     Q_OBJECT

@@ -14,7 +14,8 @@ namespace hostlib {
 
 SliderHandle::SliderHandle(QWidget *parent) : QSlider(Qt::Horizontal, parent)
 {
-    setFocusPolicy(Qt::StrongFocus);
+    // The field steps by keys too, and the toolkit's Tab would find the handle on its way back alone.
+    setFocusPolicy(Qt::ClickFocus);
 }
 
 SliderHandle::~SliderHandle() = default;

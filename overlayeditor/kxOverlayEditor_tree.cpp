@@ -55,6 +55,11 @@ void kxOverlayEditor::createTreeView()
     layout->addWidget(m_searchBox);
     layout->addWidget(m_treeView);
     frame->setLayout(layout);
+    // Box and tree are made after the panel but stand before it, as their frame does. Only a widget
+    // that takes the focus can be followed.
+    frame->setFocusPolicy(Qt::TabFocus);
+    QWidget::setTabOrder(frame, m_searchBox);
+    frame->setFocusPolicy(Qt::NoFocus);
     QWidget::setTabOrder(m_searchBox, m_treeView);
 }
 

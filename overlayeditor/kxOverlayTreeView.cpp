@@ -7,6 +7,7 @@
 #include "overlayeditor/model/kxDropTrace.h"
 #include "overlayeditor/model/kxOverlayQtModel.h"
 
+#include <QEvent>
 #include <QScopedValueRollback>
 
 kxOverlayTreeView::kxOverlayTreeView(QWidget *parent) : QTreeView(parent) {}
@@ -16,6 +17,13 @@ kxOverlayTreeView::~kxOverlayTreeView() = default;
 kxOverlayQtModel *kxOverlayTreeView::overlayModel() const
 {
     return qobject_cast<kxOverlayQtModel *>(model());
+}
+
+bool kxOverlayTreeView::event(QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress)
+        event->accept(); // whoever handles a key may count on that
+    return QTreeView::event(event);
 }
 
 void kxOverlayTreeView::startDrag(Qt::DropActions supportedActions)

@@ -13,11 +13,14 @@ class kxOverlayQtModel;
 
 /// The tree view of the editor. Created by the editor, owned by its window; GUI thread only.
 ///
-/// It adds one thing to the toolkit's view: after a drop the tree equals the service, the dropped
+/// It adds two things to the toolkit's view. After a drop the tree equals the service, the dropped
 /// nodes are selected and open as before, and the keyboard goes on from them. By itself a drop
 /// leaves closed copies that show what the rows showed when the drag began, and the view then
 /// removes every row that is selected by then, dragged or not. So rows that a filter hides are
 /// deselected when a drag begins, and once the drag is over the model settles what it touched.
+///
+/// And a key that the editor has let pass is the view's alone: the editor passes it on as ignored,
+/// and what the view does not take back its parent handles once more. Tab would go two steps.
 class kxOverlayTreeView : public QTreeView
 {
     Q_OBJECT
@@ -27,6 +30,7 @@ public:
     ~kxOverlayTreeView() override;
 
 protected:
+    bool event(QEvent *event) override;
     void startDrag(Qt::DropActions supportedActions) override;
     void dropEvent(QDropEvent *event) override;
 

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: the Overlay Editor authors
 // SPDX-License-Identifier: MIT
 
+#include "host/QKXCollapsibleFrame.h"
+#include "host/QKXSearchBox.h"
 #include "host/kxStyle.h"
 #include "tests/support/KxTest.h"
 #include "tests/support/RealInput.h"
@@ -39,6 +41,8 @@ private:
     void remove();
     void walkThroughThePanel();
 
+    QWidget *step(const char *key, const QWidget *from);
+    static bool showsItsFocus(QWidget *control);
     void choose(int entry);
     void check(const QString &step, const QString &tree);
     QString shown(const QModelIndex &parent = {}) const;
@@ -109,14 +113,11 @@ void tst_viewer_keyboard::shouldDoItAllByKeyboard()
     walkThroughThePanel();
 }
 
+/// The window gives the keyboard to its first control, the search box.
 void tst_viewer_keyboard::reachTheTree()
 {
-    for (int presses = 0; presses < 40 && !m_tree->hasFocus(); ++presses) {
-        const QWidget *before = QApplication::focusWidget();
-        realInput::key("Tab");
-        QTRY_VERIFY(QApplication::focusWidget() != before);
-    }
-    QVERIFY(m_tree->hasFocus());
+    QTRY_VERIFY(qobject_cast<QKXSearchBox *>(QApplication::focusWidget()));
+    QCOMPARE(step("Tab", QApplication::focusWidget()), m_tree);
 }
 
 /// Opens the menu of the tree by its key and goes down to an entry, counted from 1.
@@ -215,36 +216,55 @@ void tst_viewer_keyboard::remove()
     QTRY_COMPARE(m_tree->currentIndex().data().toString(), QString("Text 1"));
 }
 
-/// From the tree on, each Tab goes to another control, which shows that it has the focus, until the
-/// panel has been walked through from top to bottom.
+/// From the tree Tab goes to the first header of the panel and down to its last control, then to the
+/// search box and back to the tree; Shift+Tab goes the same way back. Each control shows that it has
+/// the focus.
 void tst_viewer_keyboard::walkThroughThePanel()
 {
     const auto *panel = m_session->window()->findChild<QScrollArea *>("_property_scrollArea");
+    const auto *frame = panel->findChild<QKXCollapsibleFrame *>("_property_frame");
+    QVector<QWidget *> path{m_tree};
     int lastTop = -1;
-    int controls = 0;
-    for (int presses = 0; presses < 40; ++presses) {
-        const QWidget *before = QApplication::focusWidget();
-        realInput::key("Tab");
-        QTRY_VERIFY(QApplication::focusWidget() != before);
-        QWidget *control = QApplication::focusWidget();
-        if (!panel->isAncestorOf(control)) {
-            if (controls > 0)
-                break;
-            continue;
-        }
-        ++controls;
+    do {
+        QWidget *control = step("Tab", path.constLast());
+        if (!control || path.size() > 40)
+            QFAIL("Tab does not come out of the panel.");
+        path.append(control);
+        if (!panel->isAncestorOf(control))
+            break;
         const int top = control->mapTo(panel, QPoint()).y() - panel->widget()->y();
         QVERIFY2(top + control->height() > lastTop, qPrintable(control->objectName()));
         lastTop = top;
-        QCoreApplication::processEvents();
-        const QImage focused = control->grab().toImage();
-        control->clearFocus();
-        const QImage plain = control->grab().toImage();
-        control->setFocus(Qt::TabFocusReason);
-        QVERIFY2(focused != plain, qPrintable(control->objectName()));
+        QVERIFY2(showsItsFocus(control), qPrintable(control->objectName()));
+    } while (true);
+    QCOMPARE(path.at(1)->parentWidget(), frame);
+    QVERIFY2(path.size() > 12, qPrintable(QString::number(path.size())));
+    QVERIFY(qobject_cast<QKXSearchBox *>(path.constLast()));
+    QCOMPARE(step("Tab", path.constLast()), m_tree);
+    QWidget *from = m_tree;
+    for (auto control = path.crbegin(); control != path.crend(); ++control) {
+        from = step("shift+Tab", from);
+        QCOMPARE(from, *control);
     }
-    QVERIFY2(controls >= 10, qPrintable(QString::number(controls)));
     check("walked-through", "Group 1(Text 1 Gate)");
+}
+
+/// Where a key leads from a control; null where it leads nowhere.
+QWidget *tst_viewer_keyboard::step(const char *key, const QWidget *from)
+{
+    realInput::key(key);
+    const bool moved = QTest::qWaitFor([from] { return QApplication::focusWidget() != from; });
+    return moved ? QApplication::focusWidget() : nullptr;
+}
+
+bool tst_viewer_keyboard::showsItsFocus(QWidget *control)
+{
+    QCoreApplication::processEvents();
+    const QImage focused = control->grab().toImage();
+    control->clearFocus();
+    const QImage plain = control->grab().toImage();
+    control->setFocus(Qt::TabFocusReason);
+    return focused != plain;
 }
 
 KX_TEST_MAIN(tst_viewer_keyboard)

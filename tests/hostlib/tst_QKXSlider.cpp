@@ -46,6 +46,7 @@ private Q_SLOTS:
     void shouldStepByTheLineStepFromItsOwnValue();
     void shouldNotStepFartherOutOfTheRange();
     void shouldLeaveTheWheelToThePanelWithoutFocus();
+    void shouldBeOneStopOfTheTabKey();
     void shouldBeSwitchedOffAsAWhole();
     void shouldAnnounceAValueThatIsSet();
     void shouldKeepWhatIsBeingTypedWhenAnEqualValueIsSet();
@@ -315,6 +316,17 @@ void tst_QKXSlider::shouldLeaveTheWheelToThePanelWithoutFocus()
     m_handle->setFocus();
     QVERIFY(turnWheel(m_handle));
     QCOMPARE(m_sent.size(), 1);
+}
+
+void tst_QKXSlider::shouldBeOneStopOfTheTabKey()
+{
+    m_neighbour->setFocus();
+    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
+        QTest::keyClick(m_neighbour, key);
+        QVERIFY(m_field->hasFocus());
+        QTest::keyClick(m_field, key);
+        QVERIFY(m_neighbour->hasFocus());
+    }
 }
 
 void tst_QKXSlider::shouldBeSwitchedOffAsAWhole()

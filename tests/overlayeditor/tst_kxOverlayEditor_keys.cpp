@@ -51,6 +51,7 @@ private Q_SLOTS:
     void shouldIgnoreOtherEvents();
     void shouldIgnoreKeysWhileANameIsEdited_data();
     void shouldIgnoreKeysWhileANameIsEdited();
+    void shouldLeadTabFromTheSearchOverTheTreeToThePanel();
     void shouldOpenTheContextMenuAtTheCursor();
     void shouldOpenOneMenuForARightClick();
 
@@ -271,6 +272,28 @@ void tst_kxOverlayEditor_keys::shouldIgnoreKeysWhileANameIsEdited()
     QVERIFY(line);
     QCOMPARE(QApplication::focusWidget(), line.data());
     QCOMPARE(line->property("text").toString(), QString("typed"));
+}
+
+void tst_kxOverlayEditor_keys::shouldLeadTabFromTheSearchOverTheTreeToThePanel()
+{
+    openEditor("a2");
+    showWindow();
+    select({2});
+    if (QApplication::focusWidget())
+        QApplication::focusWidget()->clearFocus();
+    const auto press = [this](Qt::Key key) {
+        QWidget *focus = QApplication::focusWidget();
+        QTest::keyClick(focus ? focus : &window(), key);
+        return QApplication::focusWidget();
+    };
+    QCOMPARE(press(Qt::Key_Tab), &searchBox());
+    QCOMPARE(press(Qt::Key_Tab), &tree());
+    QCOMPARE(press(Qt::Key_Tab)->parentWidget(), window()._property_frame);
+    QCOMPARE(press(Qt::Key_Tab), window()._overlay_name);
+    QCOMPARE(press(Qt::Key_Backtab)->parentWidget(), window()._property_frame);
+    QCOMPARE(press(Qt::Key_Backtab), &tree());
+    QCOMPARE(press(Qt::Key_Backtab), &searchBox());
+    QCOMPARE(press(Qt::Key_Backtab), window()._offset_y_spin_box);
 }
 
 void tst_kxOverlayEditor_keys::shouldOpenTheContextMenuAtTheCursor()
