@@ -17,6 +17,8 @@ set(KX_INSTALL_CMAKEDIR "${CMAKE_INSTALL_LIBDIR}/cmake/kxhost")
 # From the folder of the executables, so that an installed tree can be moved.
 file(RELATIVE_PATH KX_PLUGINDIR_FROM_BINDIR
     "${CMAKE_INSTALL_FULL_BINDIR}" "${CMAKE_INSTALL_FULL_LIBDIR}/overlay-editor")
+file(RELATIVE_PATH KX_DATADIR_FROM_BINDIR
+    "${CMAKE_INSTALL_FULL_BINDIR}" "${CMAKE_INSTALL_FULL_DATADIR}/overlay-editor")
 file(RELATIVE_PATH KX_LIBDIR_FROM_BINDIR "${CMAKE_INSTALL_FULL_BINDIR}" "${CMAKE_INSTALL_FULL_LIBDIR}")
 
 # kx_install_package(): the files that belong to no target, the CMake package and the settings of CPack.
@@ -60,5 +62,5 @@ set(CPACK_DEBIAN_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # Where the package's own library is found.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${CMAKE_BINARY_DIR}/bin")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS fonts-dejavu-core)
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-dejavu-core, qttranslations5-l10n")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "qtbase5-dev, cmake")

@@ -49,13 +49,20 @@ want_files(
     share/icons/hicolor/scalable/apps/overlay-viewer.svg
     share/man/man1/overlay-viewer.1
     ${DATADIR}/examples/title_sheet.json
-    ${DATADIR}/examples/images/*.svg)
+    ${DATADIR}/examples/images/*.svg
+    ${DATADIR}/translations/*_de.qm
+    ${DATADIR}/translations/*_zh_CN.qm)
 
 run("${prefix}/${BINDIR}/overlay-viewer" --headless
     --scene "${prefix}/${DATADIR}/examples/title_sheet.json" --export "${place}/sheet.png"
     --size 320x180)
 if(NOT output STREQUAL "" OR NOT EXISTS "${place}/sheet.png")
     message(FATAL_ERROR "the installed viewer did not export its scene in silence: ${output}")
+endif()
+
+run("${prefix}/${BINDIR}/overlay-viewer" --locale de --help)
+if(NOT output MATCHES "Diese Hilfe anzeigen")
+    message(FATAL_ERROR "the installed viewer does not find its translations: ${output}")
 endif()
 
 run("${CMAKE_COMMAND}" -G Ninja -S "${OUTSIDE}" -B "${place}/outside"

@@ -3,6 +3,7 @@
 
 #include "viewer/app/CommandLine.h"
 
+#include "viewer/app/Language.h"
 #include "viewer/app/ModuleLoader.h"
 
 #include <QCommandLineParser>
@@ -33,7 +34,11 @@ CommandLine::CommandLine(const QStringList &arguments)
     const QCommandLineOption picture(
         QStringLiteral("screenshot"),
         tr("Save a picture of the window once all is shown, and quit."), tr("file"));
-    parser.addOptions({help, plugin, noGl, picture});
+    const QCommandLineOption locale(
+        QStringLiteral("locale"),
+        tr("Language of texts and numbers, such as de or zh_CN; that of the desktop unless given."),
+        tr("name"));
+    parser.addOptions({help, plugin, noGl, picture, locale});
     addHeadlessOptions(&parser);
     parser.addPositionalArgument(tr("scene"), tr("Scene file to open."), tr("[scene.json]"));
 
@@ -50,6 +55,9 @@ CommandLine::CommandLine(const QStringList &arguments)
         fail(tr("Only one scene can be opened."));
     } else if (parser.isSet(picture) && parser.value(picture).isEmpty()) {
         fail(tr("The option --screenshot needs the name of a file."));
+    } else if (parser.isSet(locale) && !Language::isName(parser.value(locale))) {
+        fail(
+            tr("\"%1\" is not the name of a language: de would be one.").arg(parser.value(locale)));
     }
     scene = parser.positionalArguments().value(0);
     plugins = parser.values(plugin);

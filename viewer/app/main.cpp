@@ -5,9 +5,12 @@
 #include "host/kxStyle.h"
 #include "viewer/app/CommandLine.h"
 #include "viewer/app/HeadlessRun.h"
+#include "viewer/app/Language.h"
 #include "viewer/app/ViewerSession.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QSettings>
 
 #include <algorithm>
@@ -43,6 +46,12 @@ bool isHeadless(const char *argument)
     return std::strcmp(argument, "--headless") == 0;
 }
 
+viewer::Language chooseLanguage()
+{
+    return viewer::Language(viewer::Language::wantedBy(QCoreApplication::arguments()),
+                            viewer::Language::standardFolders());
+}
+
 int run(const viewer::CommandLine &line)
 {
     if (line.headless.isOn)
@@ -65,6 +74,7 @@ int main(int argc, char **argv)
     nameApplication();
     if (std::any_of(argv + 1, argv + argc, isQuestion)) {
         const QCoreApplication application(argc, argv);
+        const viewer::Language language = chooseLanguage();
         return answer(viewer::CommandLine(QCoreApplication::arguments()));
     }
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
@@ -73,6 +83,10 @@ int main(int argc, char **argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QStringList plugins = viewer::CommandLine::takePlugins(&argc, argv);
     const QApplication application(argc, argv);
+    viewer::Language language = chooseLanguage();
     const viewer::CommandLine line(QCoreApplication::arguments() + plugins);
+    for (const QString &plugin : line.plugins)
+        language.addFolder(
+            QFileInfo(plugin).absoluteDir().filePath(QStringLiteral("translations")));
     return line.outcome == viewer::CommandLine::Outcome::Run ? run(line) : answer(line);
 }

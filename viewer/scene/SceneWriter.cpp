@@ -78,7 +78,7 @@ private:
     void writeOverlay(const Node &node);
     void newLine();
     QByteArray imagePath(const QString &path) const;
-    template<class Number>
+    template<typename Number>
     QByteArray number(const Node &node, Number value);
     QByteArray point(const Node &node, const QPointF &point);
 
@@ -204,13 +204,13 @@ QByteArray SceneText::imagePath(const QString &path) const
     return jsonText(isFile ? m_folder.relativeFilePath(path) : path);
 }
 
-template<class Number>
+template<typename Number>
 QByteArray SceneText::number(const Node &node, Number value)
 {
     const auto limit = Number(sceneformat::MaxNumber);
     const Number known = std::isnan(value) ? Number(0) : std::clamp(value, -limit, limit);
     if (known != value)
-        warnings.append(tr("A number of \"%1\" cannot be written; %2 stands for it now.")
+        warnings.append(tr("A number of \"%1\" cannot be written; %L2 stands for it now.")
                             .arg(node.name)
                             .arg(double(known)));
     return digitsOf(known + Number(0)); // adding 0 takes the sign of a negative zero away

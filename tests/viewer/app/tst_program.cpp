@@ -16,6 +16,10 @@ private Q_SLOTS:
     void shouldTellItsVersionWithoutADisplay();
     void shouldTellItsOptionsWithoutADisplay();
     void shouldRefuseAnUnknownOption();
+    void shouldSpeakTheLanguageOfTheDesktop_data();
+    void shouldSpeakTheLanguageOfTheDesktop();
+    void shouldSpeakTheLanguageThatIsAskedFor();
+    void shouldRefuseALanguageThatIsNone();
     void shouldLeaveAPictureOfAScene();
     void shouldRunOnWhenModuleAndSceneAreBad();
 
@@ -35,10 +39,12 @@ struct Run
     QString errors;
 };
 
-Run run(const QStringList &arguments, const QString &platform = QStringLiteral("offscreen"))
+Run run(const QStringList &arguments, const QString &platform = QStringLiteral("offscreen"),
+        const QString &languages = QStringLiteral("en"))
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("QT_QPA_PLATFORM", platform);
+    environment.insert("LANGUAGE", languages);
     environment.remove("DISPLAY");
     QProcess program;
     program.setProcessEnvironment(environment);
@@ -71,6 +77,47 @@ void tst_program::shouldRefuseAnUnknownOption()
     QCOMPARE(refusal.code, 2);
     QCOMPARE(refusal.output, QString());
     QVERIFY2(refusal.errors.contains("frobnicate"), qPrintable(refusal.errors));
+}
+
+void tst_program::shouldSpeakTheLanguageOfTheDesktop_data()
+{
+    QTest::addColumn<QString>("languages");
+    QTest::addColumn<QString>("word");
+    QTest::newRow("German") << "de_AT"
+                            << "Diese Hilfe";
+    QTest::newRow("the first that there is") << "fr_FR:zh_CN:de"
+                                             << "显示此帮助";
+    QTest::newRow("English first") << "en_US:de"
+                                   << "Show this help";
+    QTest::newRow("none that there is") << "fr_FR"
+                                        << "Show this help";
+}
+
+void tst_program::shouldSpeakTheLanguageOfTheDesktop()
+{
+    QFETCH(QString, languages);
+    QFETCH(QString, word);
+    const Run answer = run({"--help"}, "xcb", languages);
+    QCOMPARE(answer.code, 0);
+    QVERIFY2(answer.output.contains(word), qPrintable(answer.output));
+}
+
+void tst_program::shouldSpeakTheLanguageThatIsAskedFor()
+{
+    const Run answer = run({"--help", "--locale", "de"}, "xcb", "zh_CN");
+    QVERIFY2(answer.output.contains("Diese Hilfe"), qPrintable(answer.output));
+    // Without a window too; the platform's own text follows.
+    const Run failed = run({"--headless", "--locale=de", "--scene", "/no/scene.json"});
+    QCOMPARE(failed.code, 4);
+    QVERIFY2(failed.errors.contains("es gibt keine solche Datei"), qPrintable(failed.errors));
+}
+
+void tst_program::shouldRefuseALanguageThatIsNone()
+{
+    const Run refusal = run({"--locale", "a.json"});
+    QCOMPARE(refusal.code, 2);
+    QVERIFY2(refusal.errors.contains("\"a.json\" is not the name of a language"),
+             qPrintable(refusal.errors));
 }
 
 void tst_program::shouldLeaveAPictureOfAScene()
