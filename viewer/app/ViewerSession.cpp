@@ -107,7 +107,7 @@ QString ViewerSession::journalFolder() const
 
 void ViewerSession::keepJournal()
 {
-    m_journal = std::make_unique<Journal>(overlays(), journalFolder());
+    m_journal = std::make_unique<Journal>(overlays(), journalFolder(), &m_journalWriter);
     connect(&m_document, &SceneDocument::pathChanged, m_journal.get(), &Journal::setPath);
     connect(m_journal.get(), &Journal::failed, this,
             [this](const QString &text) { report(Severity::Warning, text); });

@@ -12,6 +12,7 @@
 #include "viewer/scene/Journal.h"
 
 #include <QObject>
+#include <QThreadPool>
 
 #include <memory>
 
@@ -61,6 +62,7 @@ private:
     HostServices m_services;
     const std::unique_ptr<FileQuestions> m_questions;
     SceneDocument m_document{overlays(), m_questions.get(), m_settings};
+    QThreadPool m_journalWriter;
     std::unique_ptr<Journal> m_journal; // none without settings
     ImageCache m_images;
     OverlayPainter m_painter{overlays()->scene(), m_images};

@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QSaveFile>
 #include <QUuid>
+#include <QtConcurrent>
 
 namespace viewer {
 
@@ -31,6 +32,14 @@ std::unique_ptr<QLockFile> makeLock(const QString &journal)
     return lock;
 }
 
+/// On a thread of the writer. `scene` is null for one that no file holds.
+bool writeJournal(const QString &path, const QByteArray &head, const QByteArray &scene)
+{
+    QSaveFile file(path);
+    return !scene.isNull() && file.open(QIODevice::WriteOnly) && file.write(head) == head.size()
+           && file.write(scene) == scene.size() && file.commit();
+}
+
 bool isHeld(const QString &journal)
 {
     return !makeLock(journal)->tryLock(0);
@@ -40,15 +49,17 @@ bool isHeld(const QString &journal)
 
 // A journal is the path of the scene file in a line, then the scene as in a file at that path.
 
-Journal::Journal(OverlayService *service, const QString &folder)
+Journal::Journal(OverlayService *service, const QString &folder, QThreadPool *writer)
     : m_service(service)
+    , m_writer(writer)
     , m_folder(folder)
     , m_file(QDir(folder).filePath(QUuid::createUuid().toString(QUuid::WithoutBraces)
                                    + QLatin1String(".journal")))
 {
     m_due.setSingleShot(true);
     m_due.setInterval(Delay);
-    connect(&m_due, &QTimer::timeout, this, &Journal::flush);
+    connect(&m_due, &QTimer::timeout, this, &Journal::writeWhenFree);
+    connect(&m_writing, &QFutureWatcher<bool>::finished, this, &Journal::finishWriting);
     const QUndoStack *stack = service->history().stack();
     connect(stack, &QUndoStack::indexChanged, this, &Journal::follow);
     connect(stack, &QUndoStack::cleanChanged, this, &Journal::follow);
@@ -56,7 +67,7 @@ Journal::Journal(OverlayService *service, const QString &folder)
 
 Journal::~Journal()
 {
-    QFile::remove(m_file);
+    removeFile();
 }
 
 void Journal::setPath(const QString &path)
@@ -76,14 +87,43 @@ void Journal::follow()
         m_due.start();
 }
 
+/// Texts do not queue up behind a slow disk: the next one is that of the moment it is free.
+void Journal::writeWhenFree()
+{
+    if (m_writing.isRunning())
+        m_due.start();
+    else
+        startWriting();
+}
+
 bool Journal::flush()
 {
     m_due.stop();
+    m_writing.waitForFinished();
     if (m_service->history().stack()->isClean()) {
-        QFile::remove(m_file);
+        removeFile();
         return true;
     }
-    const bool isWritten = write();
+    startWriting();
+    return finishWriting();
+}
+
+void Journal::startWriting()
+{
+    if (!m_lock && QDir().mkpath(m_folder)) {
+        m_lock = makeLock(m_file);
+        m_lock->tryLock(0);
+    }
+    const QString scenePath = m_path.isEmpty() ? m_file : m_path;
+    const QByteArray scene = SceneWriter::content(m_service->scene(), scenePath, nullptr);
+    const QByteArray head = m_path.toUtf8().toPercentEncoding() + '\n';
+    m_writing.setFuture(QtConcurrent::run(m_writer, writeJournal, m_file, head, scene));
+}
+
+/// Waits for the text on its way and says what came of it.
+bool Journal::finishWriting()
+{
+    const bool isWritten = m_writing.result();
     if (!isWritten && !m_hasFailed)
         emit failed(
             tr("Unsaved work cannot be kept safe in %1.").arg(QDir::toNativeSeparators(m_folder)));
@@ -91,20 +131,10 @@ bool Journal::flush()
     return isWritten;
 }
 
-bool Journal::write()
+void Journal::removeFile()
 {
-    if (!QDir().mkpath(m_folder))
-        return false;
-    if (!m_lock) {
-        m_lock = makeLock(m_file);
-        m_lock->tryLock(0);
-    }
-    const QString scenePath = m_path.isEmpty() ? m_file : m_path;
-    const QByteArray content = SceneWriter::content(m_service->scene(), scenePath, nullptr);
-    const QByteArray bytes = m_path.toUtf8().toPercentEncoding() + '\n' + content;
-    QSaveFile file(m_file);
-    return !content.isNull() && file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size()
-           && file.commit();
+    m_writing.waitForFinished(); // or it would come back
+    QFile::remove(m_file);
 }
 
 QVector<LostWork> Journal::lostWork(const QString &folder)

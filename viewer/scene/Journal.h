@@ -6,12 +6,15 @@
 #include "viewer/scene/Scene.h"
 
 #include <QDateTime>
+#include <QFutureWatcher>
 #include <QLockFile>
 #include <QObject>
 #include <QTimer>
 
 #include <memory>
 #include <optional>
+
+class QThreadPool;
 
 namespace viewer {
 
@@ -29,20 +32,23 @@ struct LostWork
 /// moment of work. Every step starts the writing of the whole scene, at most half a second later
 /// and never twice in that time; each writing replaces the file as a whole. The file goes when the
 /// scene is saved and with the journal itself. One for each running viewer, guarded by a lock that
-/// ends with the process; owned by the session, GUI thread only.
+/// ends with the process; owned by the session.
+///
+/// Lives on the GUI thread and puts the text together there; a thread of `writer` brings it to the
+/// disk, which may be slow, one text at a time.
 class Journal : public QObject
 {
     Q_OBJECT
 
 public:
     /// Journals in `folder`, which is made when it is needed.
-    Journal(OverlayService *service, const QString &folder);
+    Journal(OverlayService *service, const QString &folder, QThreadPool *writer);
     ~Journal() override;
 
     /// The scene file that the work belongs to from now on; empty for none.
     void setPath(const QString &path);
 
-    /// Writes now what is due. False when that failed.
+    /// Writes now what is due and waits for it. False when that failed.
     bool flush();
 
     /// Journals in `folder` that no running viewer holds, oldest first. Those that cannot be read
@@ -60,14 +66,19 @@ Q_SIGNALS:
 
 private:
     void follow();
-    bool write();
+    void writeWhenFree();
+    void startWriting();
+    bool finishWriting();
+    void removeFile();
 
     OverlayService *m_service;
+    QThreadPool *m_writer;
     QString m_folder;
     QString m_file;
     QString m_path;
     std::unique_ptr<QLockFile> m_lock;
     QTimer m_due;
+    QFutureWatcher<bool> m_writing;
     bool m_hasFailed = false;
 };
 

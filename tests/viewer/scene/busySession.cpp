@@ -10,6 +10,7 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QThreadPool>
 #include <QTimer>
 
 #include <cstdio>
@@ -19,7 +20,8 @@ int main(int argc, char **argv)
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     viewer::OverlayService service;
-    viewer::Journal journal(&service, arguments.at(1));
+    QThreadPool writer;
+    viewer::Journal journal(&service, arguments.at(1), &writer);
     journal.setPath(arguments.at(2));
     RandomEdits user(&service, arguments.at(3).toUInt());
     QRandomGenerator random(arguments.at(3).toUInt());

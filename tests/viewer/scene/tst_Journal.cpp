@@ -12,8 +12,13 @@
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QRandomGenerator>
+#include <QScopeGuard>
+#include <QSemaphore>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QThreadPool>
+#include <QTimer>
+#include <QtConcurrent>
 
 #include <memory>
 
@@ -28,6 +33,7 @@ private Q_SLOTS:
     void cleanup() override;
     void shouldWriteWithoutBeingAsked();
     void shouldNotBePutOffByFurtherSteps();
+    void shouldNotWaitForASlowDisk();
     void shouldGoWhenTheSceneIsSaved();
     void shouldGoWithTheRun();
     void shouldNotOfferTheWorkOfARunningViewer();
@@ -47,6 +53,7 @@ private:
 
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<OverlayService> m_service;
+    QThreadPool m_writer;
     std::unique_ptr<Journal> m_journal;
 };
 
@@ -55,7 +62,8 @@ void tst_Journal::init()
     KxTest::init();
     m_folder = std::make_unique<QTemporaryDir>();
     m_service = std::make_unique<OverlayService>();
-    m_journal = std::make_unique<Journal>(m_service.get(), folder());
+    m_writer.setMaxThreadCount(1);
+    m_journal = std::make_unique<Journal>(m_service.get(), folder(), &m_writer);
 }
 
 void tst_Journal::cleanup()
@@ -101,6 +109,27 @@ void tst_Journal::shouldNotBePutOffByFurtherSteps()
         return !journals().isEmpty();
     }));
     QVERIFY(time.elapsed() < 2000);
+}
+
+void tst_Journal::shouldNotWaitForASlowDisk()
+{
+    QSemaphore disk;
+    QtConcurrent::run(&m_writer, [&disk] { disk.acquire(); });
+    const auto atTheEnd = qScopeGuard([&disk] { disk.release(); });
+    edit();
+    int moments = 0; // in which the user can go on working
+    QTimer clock;
+    connect(&clock, &QTimer::timeout, this, [&moments] { ++moments; });
+    clock.start(100);
+    QTRY_VERIFY(moments > 15); // three times as long as a step may wait
+    edit();
+    QCOMPARE(journals(), QStringList());
+    disk.release();
+    const auto kept = [this] {
+        const QVector<LostWork> lost = afterACrash();
+        return lost.isEmpty() ? 0 : Journal::recover(lost.first()).value_or(Scene()).nodeCount();
+    };
+    QTRY_COMPARE(kept(), m_service->scene().nodeCount());
 }
 
 void tst_Journal::shouldGoWhenTheSceneIsSaved()
