@@ -31,7 +31,7 @@ void kxOverlayTreeView::startDrag(Qt::DropActions supportedActions)
     deselectHiddenRows();
     const QScopedValueRollback<bool> dragging(m_dragging, true);
     const kxDropTrace trace(overlayModel());
-    const QRPC::NodeList openNodes = openSelectedNodes();
+    const QRPC::NodeList openNodes = openNodesIn(selectionModel()->selectedIndexes());
     QTreeView::startDrag(supportedActions);
     // Only now the view has removed the rows that it takes for the dragged ones.
     overlayModel()->settle(trace);
@@ -47,7 +47,10 @@ void kxOverlayTreeView::dropEvent(QDropEvent *event)
     }
     const kxDropTrace trace(overlayModel());
     QTreeView::dropEvent(event);
+    // The rows themselves are moved, and a row that leaves its place is closed.
+    const QRPC::NodeList openNodes = openNodesIn(trace.droppedRows());
     overlayModel()->settle(trace, kxOverlayQtModel::Copies::Discard);
+    open(openNodes);
     selectDropped(trace);
 }
 
@@ -70,18 +73,17 @@ bool kxOverlayTreeView::isHidden(QModelIndex index) const
     return index.isValid();
 }
 
-/// The nodes of the selected rows, and of those inside them, whose rows are open.
-QRPC::NodeList kxOverlayTreeView::openSelectedNodes() const
+/// The nodes of the rows, and of those inside them, whose rows are open.
+QRPC::NodeList kxOverlayTreeView::openNodesIn(const QModelIndexList &rows) const
 {
     QRPC::NodeList nodes;
     QSet<QModelIndex> visited;
-    const QModelIndexList indexes = selectionModel()->selectedIndexes();
-    for (const QModelIndex &index : indexes)
+    for (const QModelIndex &index : rows)
         collectOpen(index, &visited, &nodes);
     return nodes;
 }
 
-/// Visits a row once, however many of its ancestors are selected.
+/// Visits a row once, however many of its ancestors are among the rows.
 void kxOverlayTreeView::collectOpen(const QModelIndex &index, QSet<QModelIndex> *visited,
                                     QRPC::NodeList *nodes) const
 {
@@ -103,11 +105,14 @@ void kxOverlayTreeView::open(const QRPC::NodeList &nodes)
 void kxOverlayTreeView::selectDropped(const kxDropTrace &trace)
 {
     QItemSelection dropped;
+    // What comes from elsewhere may name a node twice; a row is selected once.
+    QSet<QRPC::NodeId> seen;
     const QRPC::NodeList nodes = trace.droppedNodes();
     for (const QRPC::NodeId node : nodes) {
         const QModelIndex index = overlayModel()->indexFromId(node);
-        if (index.isValid())
+        if (index.isValid() && !seen.contains(node))
             kxSelectionRanges::append(&dropped, index);
+        seen.insert(node);
     }
     // A drop of nodes that are not here moves nothing and takes nobody's selection away.
     if (dropped.isEmpty())

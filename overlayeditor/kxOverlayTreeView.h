@@ -38,7 +38,7 @@ private:
     kxOverlayQtModel *overlayModel() const;
     void deselectHiddenRows();
     bool isHidden(QModelIndex index) const;
-    QRPC::NodeList openSelectedNodes() const;
+    QRPC::NodeList openNodesIn(const QModelIndexList &rows) const;
     void collectOpen(const QModelIndex &index, QSet<QModelIndex> *visited,
                      QRPC::NodeList *nodes) const;
     void open(const QRPC::NodeList &nodes);

@@ -20,8 +20,11 @@ void kxDropTrace::noteDrop(const QRPC::NodeList &nodes, const QModelIndex &targe
 {
     m_droppedNodes = nodes;
     noteParent(target);
-    for (const QRPC::NodeId node : nodes)
-        noteParent(m_model->indexFromId(node).parent());
+    m_droppedRows.clear();
+    for (const QRPC::NodeId node : nodes) {
+        m_droppedRows.append(m_model->indexFromId(node));
+        noteParent(m_droppedRows.constLast().parent());
+    }
 }
 
 void kxDropTrace::noteInsertion(const QModelIndex &parent, int first, int last)
@@ -42,14 +45,14 @@ void kxDropTrace::noteParent(const QModelIndex &parent)
     }
 }
 
-QModelIndexList kxDropTrace::insertedRows() const
+QModelIndexList kxDropTrace::valid(const QVector<QPersistentModelIndex> &rows)
 {
-    QModelIndexList rows;
-    for (const QPersistentModelIndex &row : m_inserted) {
+    QModelIndexList found;
+    for (const QPersistentModelIndex &row : rows) {
         if (row.isValid())
-            rows.append(row);
+            found.append(row);
     }
-    return rows;
+    return found;
 }
 
 QModelIndexList kxDropTrace::touchedParents() const

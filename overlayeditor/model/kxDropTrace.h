@@ -26,8 +26,11 @@ public:
     /// The nodes of the last drop that the service was asked to move, in drag order.
     QRPC::NodeList droppedNodes() const { return m_droppedNodes; }
 
+    /// Where the rows of these nodes were when the service was asked; those that are still there.
+    QModelIndexList droppedRows() const { return valid(m_droppedRows); }
+
     /// Rows that were inserted and are still there.
-    QModelIndexList insertedRows() const;
+    QModelIndexList insertedRows() const { return valid(m_inserted); }
 
     /// Parents that lost or gained rows, or nodes of a drop, and are still there, in the order of
     /// their first change: the target of a drop comes before the places that its nodes came from. An
@@ -35,12 +38,14 @@ public:
     QModelIndexList touchedParents() const;
 
 private:
+    static QModelIndexList valid(const QVector<QPersistentModelIndex> &rows);
     void noteDrop(const QRPC::NodeList &nodes, const QModelIndex &target);
     void noteInsertion(const QModelIndex &parent, int first, int last);
     void noteParent(const QModelIndex &parent);
 
     kxOverlayQtModel *m_model;
     QRPC::NodeList m_droppedNodes;
+    QVector<QPersistentModelIndex> m_droppedRows;
     QVector<QPersistentModelIndex> m_inserted;
     QVector<QPersistentModelIndex> m_parents; // in the order of their first change
     QSet<QPersistentModelIndex> m_known;      // the same

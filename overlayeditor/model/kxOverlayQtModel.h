@@ -111,6 +111,7 @@ private:
         Forget, ///< build a new one: its name, kind and children are of the past
     };
     using ItemSet = QSet<const QStandardItem *>;
+    using NodeSet = QSet<QRPC::NodeId>;
 
     bool isInTree(const QStandardItem *item) const;
     QStandardItem *knownItem(QRPC::NodeId id, Detached detached) const;
@@ -125,8 +126,10 @@ private:
     void updateCheckState(QStandardItem *item, QRPC::NodeId id);
     void updateActiveStates(QVector<QStandardItem *> stack);
     bool isInPlace(QStandardItem *item) const;
-    void settleSubtree(QStandardItem *item);
-    void settleChildren(QStandardItem *parent);
+    void settleSubtree(QStandardItem *item, const NodeSet &dropped);
+    void settleChildren(QStandardItem *parent, const NodeSet &dropped);
+    void makeWay(QStandardItem *parent, int row, QRPC::NodeId id, const NodeSet &dropped);
+    int rowOf(const QStandardItem *parent, int from, QRPC::NodeId id) const;
     QStandardItem *takeForRow(QStandardItem *parent, int row, QRPC::NodeId id);
 
     /// True while the model itself calls the service, whose echo then changes nothing twice.

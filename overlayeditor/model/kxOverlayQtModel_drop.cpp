@@ -13,6 +13,9 @@
 #include <QPersistentModelIndex>
 #include <QScopedValueRollback>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 const QLatin1String
@@ -50,11 +53,15 @@ QMimeData *kxOverlayQtModel::mimeData(const QModelIndexList &indexes) const
 {
     if (indexes.isEmpty())
         return nullptr;
-    QMimeData *data = QStandardItemModel::mimeData(indexes);
+    // The base gives up at an index without a row.
+    QModelIndexList rows;
+    std::copy_if(indexes.begin(), indexes.end(), std::back_inserter(rows),
+                 [this](const QModelIndex &index) { return itemFromIndex(index) != nullptr; });
+    QMimeData *data = rows.isEmpty() ? new QMimeData : QStandardItemModel::mimeData(rows);
     QByteArray bytes;
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     bool anyGroup = false;
-    for (const QModelIndex &index : indexes) {
+    for (const QModelIndex &index : qAsConst(rows)) {
         const QRPC::NodeId id = getNodeId(index);
         if (id == 0)
             continue;

@@ -19,6 +19,8 @@ void kxOverlayQtModel::settle(const kxDropTrace &trace, Copies copies)
     // Mending one place may shift or remove rows of the next.
     const QModelIndexList rows = trace.insertedRows();
     const QVector<QPersistentModelIndex> inserted(rows.begin(), rows.end());
+    const QRPC::NodeList nodes = trace.droppedNodes();
+    const NodeSet dropped(nodes.begin(), nodes.end());
     for (const QPersistentModelIndex &copy : inserted) {
         if (!copy.isValid())
             continue;
@@ -26,7 +28,7 @@ void kxOverlayQtModel::settle(const kxDropTrace &trace, Copies copies)
         if (copies == Copies::Discard || !isInPlace(itemFromIndex(copy)))
             removeRow(copy.row(), copy.parent());
         else
-            settleSubtree(itemFromIndex(copy));
+            settleSubtree(itemFromIndex(copy), dropped);
     }
     const QModelIndexList parents = trace.touchedParents();
     const QVector<QPersistentModelIndex> remaining(parents.begin(), parents.end());
@@ -34,7 +36,7 @@ void kxOverlayQtModel::settle(const kxDropTrace &trace, Copies copies)
         // The root is the index that never was valid.
         const bool isRoot = !parents.at(i).isValid();
         if (isRoot || remaining.at(i).isValid())
-            settleChildren(isRoot ? invisibleRootItem() : itemFromIndex(remaining.at(i)));
+            settleChildren(isRoot ? invisibleRootItem() : itemFromIndex(remaining.at(i)), dropped);
     }
 }
 
@@ -43,7 +45,7 @@ bool kxOverlayQtModel::isInPlace(QStandardItem *item) const
     return itemFromId(kxService<kxOverlayService>()->getParent(getNodeId(item))) == getParent(item);
 }
 
-void kxOverlayQtModel::settleSubtree(QStandardItem *item)
+void kxOverlayQtModel::settleSubtree(QStandardItem *item, const NodeSet &dropped)
 {
     const QRPC::NodeId id = getNodeId(item);
     item->setData(kxService<kxOverlayService>()->getName(id), Qt::DisplayRole);
@@ -51,12 +53,12 @@ void kxOverlayQtModel::settleSubtree(QStandardItem *item)
     const bool active = kxService<kxOverlayService>()->isActive(id);
     if (item->data(kxOverlayItem::ActiveRole).toBool() != active)
         item->setData(active, kxOverlayItem::ActiveRole);
-    settleChildren(item);
+    settleChildren(item, dropped);
     for (int row = 0; row < item->rowCount(); ++row)
-        settleSubtree(item->child(row));
+        settleSubtree(item->child(row), dropped);
 }
 
-void kxOverlayQtModel::settleChildren(QStandardItem *parent)
+void kxOverlayQtModel::settleChildren(QStandardItem *parent, const NodeSet &dropped)
 {
     // The root's row carries no id before the first reset.
     const QRPC::NodeId parentId = parent == invisibleRootItem()
@@ -68,13 +70,15 @@ void kxOverlayQtModel::settleChildren(QStandardItem *parent)
     for (int i = 0; i < count; ++i)
         nodes.append(kxService<kxOverlayService>()->getChild(parentId, i));
 
-    QSet<QRPC::NodeId> missing(nodes.begin(), nodes.end());
+    NodeSet missing(nodes.begin(), nodes.end());
     for (int row = 0; row < nodes.size();) {
         const QRPC::NodeId id = nodes.at(row);
         // A row in the way that shows no node still to come is a ghost or a second copy.
         while (parent->rowCount() > row && !missing.contains(getNodeId(parent->child(row))))
             parent->removeRow(row);
         missing.remove(id);
+        if (!dropped.contains(id))
+            makeWay(parent, row, id, dropped);
         if (row >= parent->rowCount() || getNodeId(parent->child(row)) != id) {
             QStandardItem *item = takeForRow(parent, row, id);
             if (!item) {
@@ -83,7 +87,7 @@ void kxOverlayQtModel::settleChildren(QStandardItem *parent)
             }
             parent->insertRow(row, item);
             // It shows what it was in its old place.
-            settleSubtree(item);
+            settleSubtree(item, dropped);
         }
         ++row;
     }
@@ -94,15 +98,38 @@ void kxOverlayQtModel::settleChildren(QStandardItem *parent)
         parent->setColumnCount(1);
 }
 
+/// Puts the rows of dropped nodes that stand in front of a row last, where they are found in turn: a
+/// row that nobody dragged stays, with whatever a view knows about it.
+void kxOverlayQtModel::makeWay(QStandardItem *parent, int row, QRPC::NodeId id,
+                               const NodeSet &dropped)
+{
+    const int at = rowOf(parent, row, id);
+    for (int left = at - row; left > 0; --left) {
+        if (dropped.contains(getNodeId(parent->child(row))))
+            parent->appendRow(parent->takeRow(row));
+        else
+            ++row;
+    }
+}
+
+/// The first row of a node from a row on; -1 for none.
+int kxOverlayQtModel::rowOf(const QStandardItem *parent, int from, QRPC::NodeId id) const
+{
+    for (int row = from; row < parent->rowCount(); ++row) {
+        if (getNodeId(parent->child(row)) == id)
+            return row;
+    }
+    return -1;
+}
+
 /// The item of a node that belongs at a row: from further down, from another parent, or new. Null
 /// where the node's row holds the parent, which only a service can bring about that moves more than
 /// it was asked to.
 QStandardItem *kxOverlayQtModel::takeForRow(QStandardItem *parent, int row, QRPC::NodeId id)
 {
-    for (int other = row; other < parent->rowCount(); ++other) {
-        if (getNodeId(parent->child(other)) == id)
-            return parent->takeRow(other).constFirst();
-    }
+    const int other = rowOf(parent, row, id);
+    if (other >= 0)
+        return parent->takeRow(other).constFirst();
     QStandardItem *item = obtainItem(id, Detached::Forget);
     for (const QStandardItem *at = parent; at; at = at->parent()) {
         if (at == item)

@@ -55,6 +55,8 @@ class tst_kxOverlayEditor_commands : public EditorTest
 private Q_SLOTS:
     void shouldSendTheSelection_data();
     void shouldSendTheSelection();
+    void shouldSendHiddenRowsToo_data() { shouldSendTheSelection_data(); }
+    void shouldSendHiddenRowsToo();
     void shouldSendAnEmptySelectionToo_data();
     void shouldSendAnEmptySelectionToo();
     void shouldCreateInTheFirstGroup_data();
@@ -64,6 +66,9 @@ private Q_SLOTS:
     void shouldOpenTheNameEditorOfTheFirstSelectedRow();
     void shouldOpenNoNameEditorForAnEmptySelection();
     void shouldFocusTheSearchBox();
+    void shouldLeaveTreeAndSelectionToTheService_data();
+    void shouldLeaveTreeAndSelectionToTheService();
+    void shouldKeepTheSelectionWhileSwitching();
     void shouldSelectWhatACommandCreated();
     void shouldShowItsMenuEntriesInOrder();
     void shouldTriggerTheSlotOfAMenuEntry();
@@ -90,6 +95,18 @@ void tst_kxOverlayEditor_commands::shouldSendTheSelection()
     service().setApplies(false);
     select({4, 2, 3});
     QCOMPARE(editor().getSelectedNodes(), (QRPC::NodeList{4, 2, 3}));
+    QCOMPARE(commandsOf([this] { call(QTest::currentDataTag()); }), QStringList(command));
+}
+
+/// What a filter hides is selected nevertheless.
+void tst_kxOverlayEditor_commands::shouldSendHiddenRowsToo()
+{
+    QFETCH(QString, command);
+    openEditor("g2(a3 b4) c5");
+    service().setApplies(false);
+    select({4, 2, 3});
+    QVERIFY(QMetaObject::invokeMethod(&editor(), "searchChanged", Q_ARG(QString, "c")));
+    QVERIFY(tree().isRowHidden(0, QModelIndex()));
     QCOMPARE(commandsOf([this] { call(QTest::currentDataTag()); }), QStringList(command));
 }
 
@@ -191,6 +208,45 @@ void tst_kxOverlayEditor_commands::shouldFocusTheSearchBox()
             || searchBox().isAncestorOf(QApplication::focusWidget()));
 }
 
+void tst_kxOverlayEditor_commands::shouldLeaveTreeAndSelectionToTheService_data()
+{
+    QTest::addColumn<QString>("command");
+    for (const char *command :
+         {"createOverlay", "createOverlayGroup", "createSwitch", "duplicateOverlays",
+          "deleteOverlays", "createGroupFromSelection", "toggle", "switchOn", "switchOff"})
+        QTest::newRow(command) << QString(command);
+}
+
+/// A service that does as it is told and has not said so yet.
+void tst_kxOverlayEditor_commands::shouldLeaveTreeAndSelectionToTheService()
+{
+    QFETCH(QString, command);
+    openEditor("g2(a3 b4-) c5");
+    select({4, 3});
+    {
+        const QSignalBlocker silence(&service());
+        call(qPrintable(command));
+    }
+    QVERIFY(dumpTree(service()) != "g2(a3 b4-) c5");
+    QCOMPARE(shown(), QString("g2(a3 b4-) c5"));
+    QCOMPARE(editor().getSelectedNodes(), (QRPC::NodeList{4, 3}));
+}
+
+void tst_kxOverlayEditor_commands::shouldKeepTheSelectionWhileSwitching()
+{
+    openEditor("g2(a3 b4-) s5*(c6 d7-)");
+    select({7, 2, 4});
+    const char *const commands[] = {"toggle", "switchOff", "switchOn"};
+    const QString shownAfter[] = {"g2-(a3~ b4~) s5(c6- d7)", "g2-(a3~ b4-) s5(c6- d7-)",
+                                  "g2(a3 b4) s5(c6- d7)"};
+    for (int i = 0; i < int(std::size(commands)); ++i) {
+        call(commands[i]);
+        QCOMPARE(shown(), shownAfter[i]);
+        KX_COMPARE_TREE(model(), service());
+        QCOMPARE(editor().getSelectedNodes(), (QRPC::NodeList{7, 2, 4}));
+    }
+}
+
 void tst_kxOverlayEditor_commands::shouldSelectWhatACommandCreated()
 {
     openEditor("g2(a3) b4");
@@ -206,7 +262,7 @@ void tst_kxOverlayEditor_commands::shouldSelectWhatACommandCreated()
     KX_COMPARE_TREE(model(), service());
     call("deleteOverlays");
     KX_COMPARE_TREE(model(), service());
-    QCOMPARE(selected().contains(7), false);
+    QCOMPARE(selected(), QRPC::NodeList());
 }
 
 void tst_kxOverlayEditor_commands::shouldShowItsMenuEntriesInOrder()

@@ -54,6 +54,10 @@ void tst_kxOverlayEditor_drag::shouldMoveWhatIsDragged_data()
         "g2(a3 c5 b4)");
     row("behind the last child of a group", "g2(a3 b4) c5", {5}, 4, Below, "[5] 2 2",
         "g2(a3 b4 c5)");
+    row("below an open group", "g2(a3 b4) c5 d6", {6}, 2, Below, "[6] 1 1", "g2(a3 b4) d6 c5");
+    row("onto an overlay", "a2 g3(b4 c5)", {2}, 4, On, "[2] 3 1", "g3(b4 a2 c5)");
+    row("the only row", "a2", {2}, 0, On, "[2] 1 -1", "a2");
+    row("all rows", "a2 g3(b4) c5", {5, 2, 3}, 0, On, "[5,2,3] 1 -1", "a2 g3(b4) c5");
     row("out of its group", "a2 g3(b4 c5)", {5}, 2, Below, "[5] 1 1", "a2 c5 g3(b4)");
     row("clicked in another order", "a2 b3 c4 d5 g6()", {5, 2, 4}, 6, On, "[5,2,4] 6 -1",
         "b3 g6(a2 c4 d5)");
@@ -71,6 +75,12 @@ void tst_kxOverlayEditor_drag::shouldMoveWhatIsDragged_data()
     row("out of a disabled group", "g2-(h3(a4)) k5()", {3}, 5, On, "[3] 5 -1", "g2-() k5(h3(a4))");
     row("into a switch that shows a child", "s2*(a3) g4(b5)", {4}, 2, On, "[4] 2 -1",
         "s2(a3 g4-(b5~))");
+    row("two into an empty switch", "s2*() a3 b4", {4, 3}, 2, On, "[4,3] 2 -1", "s2(a3 b4-)");
+    row("within a switch", "s2*(a3- b4 c5-)", {4}, 3, Above, "[4] 2 0", "s2(b4 a3- c5-)");
+    row("out of a switch that shows it", "s2*(a3 b4-) g5()", {3}, 5, On, "[3] 5 -1",
+        "s2(b4-) g5(a3)");
+    row("out of a switch that hides it", "s2*(a3 g4-(b5)) g6()", {4}, 6, On, "[4] 6 -1",
+        "s2(a3) g6(g4-(b5~))");
     row("into a switch that shows none", "s2*(a3-) g4(b5)", {4}, 2, On, "[4] 2 -1",
         "s2(a3- g4(b5))");
 }

@@ -78,6 +78,7 @@ private Q_SLOTS:
     void shouldLoseNothingByADropFromElsewhere();
     void shouldRefuseWhatItCannotTake_data();
     void shouldRefuseWhatItCannotTake();
+    void shouldLeaveGroupsOpenOrClosed();
     void shouldKeepOneColumn();
 
 private:
@@ -124,12 +125,14 @@ void tst_kxOverlayEditor_foreignDrops::shouldLoseNothingByADropFromElsewhere_dat
     QTest::addColumn<int>("edge");
     QTest::addColumn<QStringList>("calls");
     QTest::addColumn<QString>("after");
+    QTest::addColumn<QRPC::NodeList>("selection");
     const QString same = "g2(h3(a4) b5) c6 k7()";
     const auto row = [](const char *name, const Payload &payload, QRPC::NodeId target, Edge edge,
-                        const char *call, const QString &after) {
+                        const char *call, const QString &after,
+                        const QRPC::NodeList &selection = {5}) {
         QTest::newRow(name) << payload << target << int(edge)
                             << (call ? QStringList{QString("moveNodes ") + call} : QStringList())
-                            << after;
+                            << after << selection;
     };
     const auto withRows = [](const QString &format, const QRPC::NodeList &nodes) {
         return rowsOf(nodes).add(format, records(nodes));
@@ -141,28 +144,29 @@ void tst_kxOverlayEditor_foreignDrops::shouldLoseNothingByADropFromElsewhere_dat
     row("rows that only look like nodes", rowsOf({6, 4711}), 7, On, nullptr, same);
     row("no record", Payload().add(overlayItems, QByteArray()), 7, On, "[] 7 -1", same);
     row("records without rows", Payload().add(overlayItems, records({6})), 7, On, "[6] 7 -1",
-        "g2(h3(a4) b5) k7(c6)");
+        "g2(h3(a4) b5) k7(c6)", {6});
     row("half a record", Payload().add(overlayItems, records({6}).left(6)), 7, On, "[6] 7 -1",
-        "g2(h3(a4) b5) k7(c6)");
+        "g2(h3(a4) b5) k7(c6)", {6});
     row("a piece of an id", Payload().add(overlayItems, records({6}).left(3)), 7, On, "[0] 7 -1",
         same);
     row("a record and a piece", rowsOf({6}).add(overlayItems, records({6, 5}).left(11)), 7, On,
-        "[6,0] 7 -1", "g2(h3(a4) b5) k7(c6)");
+        "[6,0] 7 -1", "g2(h3(a4) b5) k7(c6)", {6});
     row("unknown ids", withRows(overlayItems, {4711, 4712}), 7, On, "[4711,4712] 7 -1", same);
     row("an unknown and a known id", withRows(overlayItems, {4711, 6}), 7, On, "[4711,6] 7 -1",
-        "g2(h3(a4) b5) k7(c6)");
+        "g2(h3(a4) b5) k7(c6)", {6});
     row("no id", withRows(overlayItems, {0}), 7, On, "[0] 7 -1", same);
-    row("an id twice", withRows(overlayItems, {6, 6}), 7, On, "[6,6] 7 -1", "g2(h3(a4) b5) k7(c6)");
+    row("an id twice", withRows(overlayItems, {6, 6}), 7, On, "[6,6] 7 -1", "g2(h3(a4) b5) k7(c6)",
+        {6});
     row("ids that are taken here", withRows(treeItems, {3, 6}), 7, On, "[3,6] 7 -1",
-        "g2(b5) k7(h3(a4) c6)");
+        "g2(b5) k7(h3(a4) c6)", {3, 6});
     row("ids that are taken here, between rows", withRows(overlayItems, {5}), 6, Below, "[5] 1 2",
-        "g2(h3(a4)) c6 b5 k7()");
+        "g2(h3(a4)) c6 b5 k7()", {5});
     row("ids where they are already", withRows(overlayItems, {6}), 0, On, "[6] 1 -1",
-        "g2(h3(a4) b5) k7() c6");
+        "g2(h3(a4) b5) k7() c6", {6});
     row("the root", withRows(treeItems, {1}), 7, On, "[1] 7 -1", same);
     row("the root, onto empty space", withRows(treeItems, {1}), 0, On, "[1] 1 -1", same);
-    row("a group onto itself", withRows(treeItems, {2}), 2, On, "[2] 2 -1", same);
-    row("a group into its own child", withRows(treeItems, {2}), 3, On, "[2] 3 -1", same);
+    row("a group onto itself", withRows(treeItems, {2}), 2, On, "[2] 2 -1", same, {2});
+    row("a group into its own child", withRows(treeItems, {2}), 3, On, "[2] 3 -1", same, {2});
     row("a negative id", withRows(overlayItems, {QRPC::NodeId(-5)}), 7, On, "[4294967291] 7 -1",
         same);
 }
@@ -174,6 +178,7 @@ void tst_kxOverlayEditor_foreignDrops::shouldLoseNothingByADropFromElsewhere()
     QFETCH(int, edge);
     QFETCH(QStringList, calls);
     QFETCH(QString, after);
+    QFETCH(QRPC::NodeList, selection);
     open("g2(h3(a4) b5) c6 k7()");
     select({5});
     const QString told = dropFromElsewhere(payload, "moves", target, Edge(edge));
@@ -181,8 +186,8 @@ void tst_kxOverlayEditor_foreignDrops::shouldLoseNothingByADropFromElsewhere()
     QCOMPARE(commands(), calls);
     KX_COMPARE_ROWS();
     QCOMPARE(shown(), after);
-    // What was moved is selected; what moved nothing takes no selection away.
-    QVERIFY(!selected().isEmpty());
+    // What is named and here is selected; nodes that are not here take no selection away.
+    QCOMPARE(selected(), selection);
 }
 
 void tst_kxOverlayEditor_foreignDrops::shouldRefuseWhatItCannotTake_data()
@@ -205,6 +210,24 @@ void tst_kxOverlayEditor_foreignDrops::shouldRefuseWhatItCannotTake()
     QCOMPARE(commands(), QStringList());
     KX_COMPARE_ROWS();
     QCOMPARE(selected(), QRPC::NodeList{2});
+}
+
+void tst_kxOverlayEditor_foreignDrops::shouldLeaveGroupsOpenOrClosed()
+{
+    open("g2(h3(a4) k5(b6)) m7(c8)");
+    tree().collapse(index(5));
+    const QPersistentModelIndex other(index(7));
+    const Payload payload = Payload().add(treeItems, records({2}));
+    dropFromElsewhere(payload, "moves", 0, On);
+    KX_COMPARE_ROWS();
+    QCOMPARE(shown(), QString("m7(c8) g2(h3(a4) k5(b6))"));
+    QCOMPARE(selected(), QRPC::NodeList{2});
+    // The row of before, which nobody dragged.
+    QVERIFY(other.isValid());
+    QVERIFY(tree().isExpanded(index(7)));
+    QVERIFY(tree().isExpanded(index(2)));
+    QVERIFY(tree().isExpanded(index(3)));
+    QVERIFY(!tree().isExpanded(index(5)));
 }
 
 void tst_kxOverlayEditor_foreignDrops::shouldKeepOneColumn()

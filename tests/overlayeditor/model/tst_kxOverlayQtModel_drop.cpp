@@ -41,13 +41,20 @@ private Q_SLOTS:
     void shouldWriteBigEndianPairs();
     void shouldCarryNothingForAnEmptyDrag();
     void shouldLeaveOutRowsWithoutANode();
+    void shouldLeaveOutIndexesWithoutARow();
+    void shouldCarryIdsBeyondTheSignedRange();
     void shouldCarryTheEncodingOfTheBase();
     void shouldAskForEachDraggedNode();
     void shouldMoveOnceToTheTarget_data();
     void shouldMoveOnceToTheTarget();
+    void shouldMoveToTheRootFromARowWithoutANode();
     void shouldKeepTheOrderOfTheDrag();
+    void shouldIgnoreTheParentsOfARecord();
+    void shouldAnswerWhatTheBaseAnswers_data();
+    void shouldAnswerWhatTheBaseAnswers();
     void shouldRefuseWhatIsNoMove();
     void shouldNotAskTheServiceForForeignFormats();
+    void shouldPutForeignRowsWhereTheyAreDropped();
     void shouldPreferTheFormatOfGroups();
     void shouldReadATruncatedRecordAsFarAsItGoes_data();
     void shouldReadATruncatedRecordAsFarAsItGoes();
@@ -123,6 +130,29 @@ void tst_kxOverlayQtModel_drop::shouldLeaveOutRowsWithoutANode()
     QCOMPARE(empty->data(overlayItems), QByteArray());
 }
 
+void tst_kxOverlayQtModel_drop::shouldLeaveOutIndexesWithoutARow()
+{
+    fill("a2 g3()");
+    const std::unique_ptr<QMimeData> mixed(model().mimeData({QModelIndex(), index(2)}));
+    QVERIFY(mixed);
+    QCOMPARE(recordsOf(mixed->data(overlayItems)), QString("2/1"));
+    QVERIFY(mixed->hasFormat(QStandardItemModel().mimeTypes().constFirst()));
+    const std::unique_ptr<QMimeData> empty(model().mimeData({QModelIndex()}));
+    QVERIFY(empty);
+    QVERIFY(empty->hasFormat(overlayItems));
+    QCOMPARE(empty->data(overlayItems), QByteArray());
+}
+
+void tst_kxOverlayQtModel_drop::shouldCarryIdsBeyondTheSignedRange()
+{
+    fill("g2() h4294967290(a4294967291)");
+    const auto data = drag({4294967291U});
+    QCOMPARE(data->data(overlayItems).toHex(), QByteArray("fffffffbfffffffa"));
+    log().clear();
+    QVERIFY(model().dropMimeData(data.get(), Qt::MoveAction, -1, -1, index(2)));
+    QCOMPARE(log().linesOf({"moveNodes"}), QStringList("moveNodes [4294967291] 2 -1"));
+}
+
 void tst_kxOverlayQtModel_drop::shouldCarryTheEncodingOfTheBase()
 {
     fill("a2");
@@ -167,6 +197,57 @@ void tst_kxOverlayQtModel_drop::shouldMoveOnceToTheTarget()
     KX_COMPARE_TREE(model(), service());
 }
 
+void tst_kxOverlayQtModel_drop::shouldMoveToTheRootFromARowWithoutANode()
+{
+    fill("a2");
+    service().setApplies(false);
+    model().appendRow(new QStandardItem("none"));
+    const auto data = drag({2});
+    log().clear();
+    model().dropMimeData(data.get(), Qt::MoveAction, 0, 0, model().index(1, 0));
+    QCOMPARE(log().linesOf({"moveNodes"}), QStringList("moveNodes [2] 1 0"));
+    QCOMPARE(model().item(1)->rowCount(), 1);
+}
+
+void tst_kxOverlayQtModel_drop::shouldIgnoreTheParentsOfARecord()
+{
+    fill("g2(a3) b4 h5()");
+    service().setApplies(false);
+    QMimeData data;
+    data.setData(overlayItems, QByteArray::fromHex("00000003000000050000000400001267"));
+    log().clear();
+    model().dropMimeData(&data, Qt::MoveAction, -1, -1, index(5));
+    QCOMPARE(log().linesOf({"moveNodes"}), QStringList("moveNodes [3,4] 5 -1"));
+}
+
+void tst_kxOverlayQtModel_drop::shouldAnswerWhatTheBaseAnswers_data()
+{
+    QTest::addColumn<bool>("hasRows");
+    QTest::addColumn<bool>("hasRecords");
+    QTest::newRow("rows and records") << true << true;
+    QTest::newRow("rows alone") << true << false;
+    QTest::newRow("records alone") << false << true;
+}
+
+void tst_kxOverlayQtModel_drop::shouldAnswerWhatTheBaseAnswers()
+{
+    QFETCH(bool, hasRows);
+    QFETCH(bool, hasRecords);
+    fill("a2 g3(b4)");
+    service().setApplies(false);
+    const auto whole = drag({2});
+    QMimeData data;
+    for (const QString &format : whole->formats()) {
+        if (format == overlayItems ? hasRecords : hasRows)
+            data.setData(format, whole->data(format));
+    }
+    log().clear();
+    QCOMPARE(model().dropMimeData(&data, Qt::MoveAction, 0, 0, index(3)), hasRows);
+    QCOMPARE(log().count("moveNodes"), int(hasRecords));
+    QCOMPARE(item(3)->rowCount(), hasRows ? 2 : 1);
+    QCOMPARE(item(3)->child(0)->text(), QString(hasRows ? "a2" : "b4"));
+}
+
 void tst_kxOverlayQtModel_drop::shouldKeepTheOrderOfTheDrag()
 {
     fill("a2 b3 c4 g5()");
@@ -202,6 +283,21 @@ void tst_kxOverlayQtModel_drop::shouldNotAskTheServiceForForeignFormats()
     QCOMPARE(log().count("moveNodes"), 0);
     QCOMPARE(item(2)->child(0)->text(), QString("row"));
     QCOMPARE(model().getNodeId(item(2)->child(0)), 0u);
+}
+
+void tst_kxOverlayQtModel_drop::shouldPutForeignRowsWhereTheyAreDropped()
+{
+    fill("g2(a3 b4)");
+    QStandardItemModel other;
+    other.appendRow(new QStandardItem("row"));
+    const std::unique_ptr<QMimeData> rows(other.mimeData({other.index(0, 0)}));
+    QVERIFY(!model().dropMimeData(rows.get(), Qt::CopyAction, 1, 0, index(2)));
+    QCOMPARE(item(2)->rowCount(), 2);
+    QVERIFY(model().dropMimeData(rows.get(), Qt::MoveAction, 1, 0, index(2)));
+    QCOMPARE(item(2)->rowCount(), 3);
+    QCOMPARE(item(2)->child(1)->text(), QString("row"));
+    QVERIFY(model().dropMimeData(rows.get(), Qt::MoveAction, 0, 0, QModelIndex()));
+    QCOMPARE(model().item(0)->text(), QString("row"));
 }
 
 void tst_kxOverlayQtModel_drop::shouldPreferTheFormatOfGroups()

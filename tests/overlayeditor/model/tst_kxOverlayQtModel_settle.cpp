@@ -25,6 +25,8 @@ private Q_SLOTS:
     void shouldRemoveCopiesThatCameFromElsewhere();
     void shouldMendNothingWhereNothingDiffers();
     void shouldLeaveRowsThatWereNotTouchedAlone();
+    void shouldMoveOnlyTheDroppedRows_data();
+    void shouldMoveOnlyTheDroppedRows();
     void shouldMendACopyWhoseRowHasShifted();
     void shouldKeepATreeThatWasNeverReset();
     void shouldTellWhichNodesWereDropped();
@@ -238,6 +240,44 @@ void tst_kxOverlayQtModel_settle::shouldLeaveRowsThatWereNotTouchedAlone()
     QCOMPARE(item(4), group);
 }
 
+void tst_kxOverlayQtModel_settle::shouldMoveOnlyTheDroppedRows_data()
+{
+    QTest::addColumn<QRPC::NodeList>("dragged");
+    QTest::addColumn<int>("row");
+    QTest::addColumn<QRPC::NodeList>("order");
+    using Nodes = QRPC::NodeList;
+    QTest::newRow("one, to the end") << Nodes{4} << 0 << Nodes{2, 3, 5, 6, 4};
+    QTest::newRow("one, to the front") << Nodes{4} << 5 << Nodes{4, 2, 3, 5, 6};
+    QTest::newRow("two, to the end") << Nodes{3, 4} << 0 << Nodes{2, 5, 6, 3, 4};
+    QTest::newRow("two, turned round") << Nodes{3, 4} << 0 << Nodes{2, 5, 6, 4, 3};
+    QTest::newRow("two, to the front") << Nodes{5, 6} << 2 << Nodes{6, 5, 2, 3, 4};
+    QTest::newRow("two, apart") << Nodes{2, 3} << 5 << Nodes{3, 4, 5, 2, 6};
+    QTest::newRow("all but one") << Nodes{2, 3, 4, 5} << 0 << Nodes{5, 3, 6, 2, 4};
+}
+
+/// A service that keeps its children in an order of its own.
+void tst_kxOverlayQtModel_settle::shouldMoveOnlyTheDroppedRows()
+{
+    QFETCH(QRPC::NodeList, dragged);
+    QFETCH(int, row);
+    QFETCH(QRPC::NodeList, order);
+    fill("g2(a7) g3(b8) g4(c9) g5(d10) g6(e11)");
+    QVector<QPersistentModelIndex> others;
+    for (const QRPC::NodeId id : {2, 3, 4, 5, 6}) {
+        if (!dragged.contains(id))
+            others.append(index(id));
+    }
+    service().setHook([&](const QString &) {
+        for (const QRPC::NodeId id : qAsConst(order))
+            service().place(id, 1, -1);
+    });
+    dragAndDrop(dragged, 1, row);
+    service().setHook(nullptr);
+    KX_COMPARE_TREE(model(), service());
+    for (const QPersistentModelIndex &other : qAsConst(others))
+        QVERIFY(other.isValid());
+}
+
 void tst_kxOverlayQtModel_settle::shouldMendACopyWhoseRowHasShifted()
 {
     fill("a2");
@@ -265,10 +305,16 @@ void tst_kxOverlayQtModel_settle::shouldTellWhichNodesWereDropped()
     const std::unique_ptr<QMimeData> data(model().mimeData({index(3), index(2)}));
     const kxDropTrace trace(&model());
     QCOMPARE(trace.droppedNodes(), QRPC::NodeList());
+    const QModelIndexList rows{index(3), index(2)};
     QVERIFY(!model().dropMimeData(data.get(), Qt::CopyAction, -1, 0, index(4)));
     QCOMPARE(trace.droppedNodes(), QRPC::NodeList());
-    QVERIFY(model().dropMimeData(data.get(), Qt::MoveAction, -1, 0, index(4)));
-    QCOMPARE(trace.droppedNodes(), (QRPC::NodeList{3, 2}));
+    for (int drops = 0; drops < 2; ++drops) {
+        QVERIFY(model().dropMimeData(data.get(), Qt::MoveAction, -1, 0, index(4)));
+        QCOMPARE(trace.droppedNodes(), (QRPC::NodeList{3, 2}));
+        QCOMPARE(trace.droppedRows(), rows);
+    }
+    model().removeRow(0);
+    QCOMPARE(trace.droppedRows(), QModelIndexList{model().index(0, 0)});
 }
 
 void tst_kxOverlayQtModel_settle::shouldForgetRowsThatAreGone()
