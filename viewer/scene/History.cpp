@@ -36,20 +36,21 @@ bool isToggle(const Step &first, const Step &second)
     return !named.intersects({second.nodes.begin(), second.nodes.end()});
 }
 
-/// A step on the stack. The service has done it already when it is pushed.
+/// A step on the stack. It does nothing by itself: the history takes the scene back and forth, in
+/// parts, and then has the stack follow.
 class StepCommand : public QUndoCommand
 {
 public:
-    StepCommand(Scene *scene, Step step, bool continues, bool mayToggle)
+    StepCommand(Step step, bool continues, bool mayToggle)
         : m_step(std::move(step))
-        , m_scene(scene)
         , m_continues(continues)
         , m_mayToggle(mayToggle)
     {
         showText();
     }
 
-    const Step &step() const { return m_step; }
+    // The stack gives its commands away for reading only, but records go in and out of a step.
+    Step &step() const { return m_step; }
 
     int id() const override { return switches(m_step) || isContinuous(m_step.operation) ? 0 : -1; }
 
@@ -66,26 +67,10 @@ public:
         return true;
     }
 
-    void undo() override
-    {
-        for (auto change = m_step.changes.rbegin(); change != m_step.changes.rend(); ++change)
-            change->apply(m_scene, Direction::Back);
-    }
-
-    void redo() override
-    {
-        if (m_isNew) {
-            m_isNew = false;
-            return;
-        }
-        for (SceneChange &change : m_step.changes)
-            change.apply(m_scene, Direction::Forth);
-    }
-
 private:
     void take(const Step &later, bool toggles)
     {
-        m_step.changes.front().mergeValues(later.changes.front());
+        m_step.changes.front().mergeValues(&later.changes.front());
         if (toggles) {
             m_step.operation = Operation::Toggle;
             m_step.nodes += later.nodes;
@@ -104,11 +89,9 @@ private:
         setText(text + QLatin1Char('\n') + entry.replace(QLatin1Char('&'), QLatin1String("&&")));
     }
 
-    Step m_step;
-    Scene *m_scene;
+    mutable Step m_step;
     bool m_continues;
     bool m_mayToggle;
-    bool m_isNew = true;
 };
 
 } // namespace
@@ -119,25 +102,48 @@ History::~History() = default;
 
 void History::record(Step step)
 {
-    if (isEmpty(step))
-        return;
-    if (m_openCount == 0) {
-        push(std::move(step));
-        return;
-    }
-    std::move(step.changes.begin(), step.changes.end(), std::back_inserter(m_open->changes));
+    if (!isEmpty(step))
+        emit recorded(take(std::move(step)));
 }
 
-void History::push(Step step)
+/// Puts a step where it belongs. True when it became part of another one.
+bool History::take(Step step)
+{
+    return m_open.empty() ? push(std::move(step)) : addTo(&m_open.back(), std::move(step));
+}
+
+bool History::push(Step step)
 {
     const bool continues = mayMerge(step.operation);
-    auto *command = new StepCommand(m_scene, std::move(step), continues, m_sameTurn);
+    auto *command = new StepCommand(std::move(step), continues, m_sameTurn);
     m_gestureEnded = false;
     m_sinceLast.start();
     if (!m_sameTurn)
         QTimer::singleShot(0, this, [this] { m_sameTurn = false; });
     m_sameTurn = true;
+    const int before = m_stack.index();
     m_stack.push(command);
+    // What follows a step that vanished must not go on with the one before it.
+    if (m_stack.index() < before)
+        endGesture();
+    return m_stack.index() <= before;
+}
+
+bool History::addTo(OpenGroup *group, Step step)
+{
+    group->undone.clear();
+    const bool joins = group->joinNext && !group->done.empty();
+    group->joinNext = false;
+    if (!joins) {
+        group->done.push_back(std::move(step));
+        return false;
+    }
+    std::vector<SceneChange> &changes = group->done.back().changes;
+    std::move(step.changes.begin(), step.changes.end(), std::back_inserter(changes));
+    mergeValueRuns(&changes);
+    if (changes.empty())
+        group->done.pop_back();
+    return true;
 }
 
 bool History::mayMerge(Operation operation) const
@@ -147,44 +153,106 @@ bool History::mayMerge(Operation operation) const
     return m_held || operation == Operation::SetText || m_sinceLast.elapsed() < LongestPause;
 }
 
-void History::open(const Step &first)
+void History::open(const Step &first, Group group)
 {
-    if (m_openCount++ == 0)
-        m_open = first;
+    m_open.push_back({first, group, {}, {}});
+    emit opened();
+}
+
+/// All that was done in a group and not taken back.
+Step History::sumOf(OpenGroup group)
+{
+    for (Step &step : group.done)
+        std::move(step.changes.begin(), step.changes.end(), std::back_inserter(group.sum.changes));
+    mergeValueRuns(&group.sum.changes);
+    return std::move(group.sum);
 }
 
 void History::close()
 {
-    if (--m_openCount != 0)
-        return;
-    Step step = std::move(*m_open);
-    m_open.reset();
-    record(std::move(step));
+    Step sum = sumOf(std::move(m_open.back()));
+    m_open.pop_back();
+    if (!isEmpty(sum))
+        take(std::move(sum));
+    emit closed();
 }
 
-const Step *History::next(Direction direction) const
+void History::joinNext()
 {
-    const int index = m_stack.index() - (direction == Direction::Back ? 1 : 0);
-    const QUndoCommand *command = m_openCount == 0 ? m_stack.command(index) : nullptr;
-    return command ? &static_cast<const StepCommand *>(command)->step() : nullptr;
+    m_open.back().joinNext = true;
 }
 
-const Step *History::undo()
+/// The step that is one back or forth; null when there is none.
+Step *History::next(Direction direction)
 {
-    const Step *step = next(Direction::Back);
+    const bool isBack = direction == Direction::Back;
+    if (m_open.empty()) {
+        const int index = m_stack.index() - (isBack ? 1 : 0);
+        const QUndoCommand *command = m_stack.command(index);
+        return command ? &static_cast<const StepCommand *>(command)->step() : nullptr;
+    }
+    OpenGroup &group = m_open.back();
+    std::vector<Step> &steps = isBack ? group.done : group.undone;
+    return group.kind == Group::Plain || steps.empty() ? nullptr : &steps.back();
+}
+
+bool History::canRestore(Direction direction)
+{
+    return next(direction) != nullptr;
+}
+
+bool History::startRestoring(Direction direction)
+{
+    Step *step = next(direction);
     endGesture();
-    if (step)
-        m_stack.undo();
-    return step;
+    if (!step)
+        return false;
+    m_restoring = {step, direction, false};
+    emit restoring(direction);
+    return true;
 }
 
-const Step *History::redo()
+void History::startRollBack()
 {
-    const Step *step = next(Direction::Forth);
-    endGesture();
-    if (step)
-        m_stack.redo();
-    return step;
+    m_rolledBack = sumOf(std::move(m_open.back()));
+    m_open.pop_back();
+    if (!m_rolledBack.changes.empty())
+        m_restoring = {&m_rolledBack, Direction::Back, true};
+    emit rolledBack();
+}
+
+StepPart History::nextPart() const
+{
+    return viewer::nextPart(m_restoring->step, m_restoring->direction, m_restoring->done);
+}
+
+void History::restorePart()
+{
+    const StepPart part = nextPart();
+    for (SceneChange *change : part)
+        change->apply(m_scene, m_restoring->direction);
+    m_restoring->done += part.size();
+    if (m_restoring->done == m_restoring->step->changes.size())
+        arrive();
+}
+
+/// The scene is where it was to go; the steps follow.
+void History::arrive()
+{
+    const Restoring way = *m_restoring;
+    m_restoring.reset();
+    const bool isBack = way.direction == Direction::Back;
+    if (way.isRollBack) {
+        m_rolledBack = {};
+    } else if (m_open.empty()) {
+        isBack ? m_stack.undo() : m_stack.redo();
+    } else {
+        OpenGroup &group = m_open.back();
+        std::vector<Step> &from = isBack ? group.done : group.undone;
+        std::vector<Step> &to = isBack ? group.undone : group.done;
+        to.push_back(std::move(from.back()));
+        from.pop_back();
+    }
 }
 
 void History::endGesture()

@@ -36,18 +36,36 @@ public:
     void record(Step step);
 
     /// Until the matching close(), all that is recorded belongs to one step with this text; when
-    /// nothing is recorded there is none. Only the outermost pair counts. `first` may name it by
-    /// operation and nodes instead of by a text.
-    void open(const Step &first);
+    /// nothing comes of it there is none. Such groups may lie in each other. `first` may name the
+    /// step by operation and nodes instead of by a text. In a group that is a history of its own,
+    /// undo and redo take the records of the group back and forth; in any other one there is none.
+    enum class Group { Plain, OwnHistory };
+    void open(const Step &first, Group group = Group::Plain);
     void close();
 
-    /// Takes the scene one step back or forth. Gives the step, null when there is none; it stays
-    /// valid until the next one is recorded.
-    const Step *undo();
-    const Step *redo();
+    /// In a group with its own history: the next record goes on with the last one.
+    void joinNext();
 
-    /// The step that undo() or redo() would take; null when there is none.
-    const Step *next(SceneChange::Direction direction) const;
+    /// @name Taking the scene back and forth
+    /// In parts, so that each of them can be announced while the scene is as the part left it. Once
+    /// started, the way is to be gone to its end before anything else is recorded.
+    /// @{
+
+    bool canRestore(SceneChange::Direction direction);
+
+    /// Starts on the way one step back or forth. False when there is no such step.
+    bool startRestoring(SceneChange::Direction direction);
+
+    /// Leaves the innermost group, as close() does, and starts on the way back to where it began.
+    void startRollBack();
+
+    bool isRestoring() const { return m_restoring.has_value(); }
+
+    /// The changes that restorePart() carries out.
+    StepPart nextPart() const;
+    void restorePart();
+
+    /// @}
 
     /// The next change begins a step of its own.
     void endGesture();
@@ -64,14 +82,51 @@ public:
     /// The scene is unlike any file, whatever is undone.
     void setUnsaved() { m_stack.resetClean(); }
 
+Q_SIGNALS:
+    /// An operation was taken in, as a step of its own or as part of the last one.
+    void recorded(bool joined);
+
+    /// Groups, which may have come to nothing.
+    void opened();
+    void closed();
+    void rolledBack();
+
+    /// The scene is about to go one step back or forth.
+    void restoring(viewer::SceneChange::Direction direction);
+
 private:
-    void push(Step step);
+    /// An open group: its records, and those of them that were taken back.
+    struct OpenGroup
+    {
+        Step sum;
+        Group kind;
+        std::vector<Step> done;
+        std::vector<Step> undone;
+        bool joinNext = false;
+    };
+
+    /// The way on which the scene is being taken.
+    struct Restoring
+    {
+        Step *step;
+        SceneChange::Direction direction;
+        bool isRollBack;
+        std::size_t done = 0; // changes that are behind
+    };
+
+    bool take(Step step);
+    bool push(Step step);
+    bool addTo(OpenGroup *group, Step step);
+    static Step sumOf(OpenGroup group);
     bool mayMerge(Operation operation) const;
+    Step *next(SceneChange::Direction direction);
+    void arrive();
 
     Scene *m_scene;
     QUndoStack m_stack;
-    std::optional<Step> m_open;
-    int m_openCount = 0;
+    std::vector<OpenGroup> m_open;
+    std::optional<Restoring> m_restoring;
+    Step m_rolledBack;
     QElapsedTimer m_sinceLast;
     bool m_gestureEnded = false;
     bool m_held = false;

@@ -187,8 +187,10 @@ void OverlayService::postpone(std::function<void()> signal)
     m_postponed.push(std::move(signal));
 }
 
+/// What every operation begins with: nothing that happened before it is left to be told.
 void OverlayService::sendPostponed()
 {
+    finishRestoring();
     if (m_announcedMoves != 0)
         return;
     while (!m_postponed.empty()) {

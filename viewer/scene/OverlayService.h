@@ -57,12 +57,17 @@ public:
     /// What can be undone, and whether the scene is saved.
     History &history() { return m_history; }
 
-    /// Takes back the last step, or does the one again that was taken back last. When all of it is
-    /// done it is announced: additions, moves, removals, values, enabled states. Nodes that come
-    /// back have their old ids and are announced by nodesAdded() alone. Ignored where there is no
-    /// step, and while one is being made.
+    /// Takes back the last step, or does the one again that was taken back last. What it comes to is
+    /// announced when all of it is done, values and enabled states after the nodes; a step that adds,
+    /// moves and removes nodes in turn is announced in parts that do one of it, each as soon as it
+    /// is done. Nodes that come back have their old ids and are announced by nodesAdded() alone.
+    /// Ignored where there is no step, and while one is being made. A slot that changes the scene
+    /// between two parts finds the whole step done, and modelReset() stands for the rest of it.
     void undo();
     void redo();
+
+    /// Leaves the innermost step that is being made, and takes back what was done in it.
+    void rollBack();
 
     QRPC::NodeId getRootNode() override;
     QRPC::NodeId getParent(QRPC::NodeId node) override;
@@ -135,7 +140,9 @@ private:
     void record(Operation operation, const QRPC::NodeList &nodes, SceneChange change);
     void recordAdded(Operation operation, const QRPC::NodeList &tops);
     void restore(SceneChange::Direction direction);
-    void announceRestored(const Step &step, const NodeFates &fates);
+    void restoreParts();
+    void finishRestoring();
+    void announceRestored(const NodeFates &fates);
 
     // values
     using ValueFor = std::function<PropertyValue(const Node &)>;
@@ -172,12 +179,17 @@ private:
 class StepGroup
 {
 public:
-    StepGroup(OverlayService *service, const QString &text);
+    StepGroup(OverlayService *service, const QString &text,
+              History::Group group = History::Group::Plain);
     ~StepGroup();
     Q_DISABLE_COPY(StepGroup)
 
+    /// Takes back all of it and makes no step.
+    void rollBack();
+
 private:
     OverlayService *m_service;
+    bool m_isRolledBack = false;
 };
 
 } // namespace viewer

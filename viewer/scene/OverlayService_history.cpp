@@ -14,42 +14,38 @@ using QRPC::NodeId;
 using QRPC::NodeList;
 using Direction = SceneChange::Direction;
 
-/// Which nodes a step adds, moves and removes in sum, each list in the order of the tree in which
-/// the nodes stand.
+/// What a part of a step comes to: which nodes it adds, moves and removes, each list in the order of
+/// the tree in which the nodes stand, and whose values it changes.
 struct NodeFates
 {
-    /// Looks at the scene before the step is taken.
-    NodeFates(const Scene &scene, const Step &step);
+    /// Looks at the scene before the part is carried out.
+    NodeFates(const Scene &scene, const StepPart &part);
 
     /// Looks at it again afterwards.
     void settle(const Scene &scene);
 
     NodeList added;
-    NodeList moved; // and added ones beside moved or removed ones: their place follows
+    NodeList moved;
     NodeList removed;
+    QMap<Property, NodeList> changed;
 
 private:
-    NodeList inKnownNodes(const Scene &scene) const;
-
     NodeList m_touched;
     NodeList m_known; // that were there before
     QHash<NodeId, NodeId> m_oldParents;
 };
 
-NodeFates::NodeFates(const Scene &scene, const Step &step)
+NodeFates::NodeFates(const Scene &scene, const StepPart &part)
 {
-    QSet<NodeId> seen;
-    const auto touch = [&](const std::vector<SceneChange::Place> &places) {
-        for (const SceneChange::Place &place : places) {
-            if (seen.contains(place.node))
-                continue;
-            seen.insert(place.node);
+    const auto touch = [this](const std::vector<SceneChange::Place> &places) {
+        for (const SceneChange::Place &place : places)
             m_touched.append(place.node);
-        }
     };
-    for (const SceneChange &change : step.changes) {
-        touch(change.before);
-        touch(change.after);
+    for (const SceneChange *change : part) {
+        touch(change->before);
+        touch(change->after);
+        for (const SceneChange::Value &value : change->values)
+            changed[value.property].append(value.node);
     }
     m_known = inTreeOrder(scene, knownNodes(scene, m_touched));
     for (const NodeId id : qAsConst(m_known))
@@ -58,35 +54,15 @@ NodeFates::NodeFates(const Scene &scene, const Step &step)
 
 void NodeFates::settle(const Scene &scene)
 {
-    for (const NodeId id : qAsConst(m_touched)) {
-        if (scene.find(id))
-            (m_oldParents.contains(id) ? moved : added).append(id);
-    }
-    added = inTreeOrder(scene, moved.isEmpty() ? topNodes(scene, added) : inKnownNodes(scene));
+    const NodeList there = inTreeOrder(scene, knownNodes(scene, m_touched));
+    for (const NodeId id : there)
+        (m_oldParents.contains(id) ? moved : added).append(id);
+    added = topNodes(scene, added);
     // What lay in a removed node goes with it.
     std::copy_if(m_known.cbegin(), m_known.cend(), std::back_inserter(removed),
                  [&](NodeId id) { return !scene.find(id) && scene.find(m_oldParents.value(id)); });
-    // While other rows are still to come and to go, the row of a new node says little.
-    if (!moved.isEmpty() || !removed.isEmpty())
-        moved += added;
-    moved = inTreeOrder(scene, moved);
-}
-
-/// The added nodes that do not come with another one: nothing new lies between them and what was
-/// there before. A known node that lies in a new one has moved there, and brings nothing along that
-/// is new in it.
-NodeList NodeFates::inKnownNodes(const Scene &scene) const
-{
-    const QSet<NodeId> fresh(added.begin(), added.end());
-    NodeList tops;
-    for (const NodeId id : added) {
-        NodeId above = scene.find(id)->parent;
-        while (above != 0 && !fresh.contains(above) && !m_oldParents.contains(above))
-            above = scene.find(above)->parent;
-        if (!fresh.contains(above))
-            tops.append(id);
-    }
-    return tops;
+    for (NodeList &nodes : changed)
+        nodes = knownNodes(scene, nodes); // each once
 }
 
 Step OverlayService::stepOf(Operation operation, const NodeList &nodes) const
@@ -129,46 +105,77 @@ void OverlayService::redo()
 void OverlayService::restore(Direction direction)
 {
     sendPostponed();
-    const Step *step = m_history.next(direction);
-    if (!step)
-        return;
-    NodeFates fates(m_scene, *step);
-    if (direction == Direction::Back)
-        m_history.undo();
-    else
-        m_history.redo();
-    fates.settle(m_scene);
-    announceRestored(*step, fates);
+    if (m_history.startRestoring(direction))
+        restoreParts();
 }
 
-void OverlayService::announceRestored(const Step &step, const NodeFates &fates)
+void OverlayService::rollBack()
 {
-    QMap<Property, NodeList> changed;
-    for (const SceneChange &change : step.changes) {
-        for (const SceneChange::Value &value : change.values)
-            changed[value.property].append(value.node);
+    sendPostponed();
+    m_history.startRollBack();
+    restoreParts();
+}
+
+/// Carries out a step and announces each part of it before the next one is carried out: in sum, a
+/// node could have to be told to move into one that is not known yet.
+void OverlayService::restoreParts()
+{
+    while (m_history.isRestoring()) {
+        NodeFates fates(m_scene, m_history.nextPart());
+        m_history.restorePart();
+        fates.settle(m_scene);
+        // Nothing but the last part can wait until a move has been announced.
+        if (m_announcedMoves != 0 && m_history.isRestoring())
+            finishRestoring();
+        else
+            announceRestored(fates);
     }
-    const NodeList enabled = changed.take(Property::Enabled) + reachedBy(fates.moved);
-    // Nothing of the step is asked for once slots run: they may change the history.
+}
+
+/// Carries out what is left of a step, since somebody who was told of a part of it is about to go on
+/// with the scene.
+void OverlayService::finishRestoring()
+{
+    if (!m_history.isRestoring())
+        return;
+    while (m_history.isRestoring())
+        m_history.restorePart();
+    announceStructure([this] { Q_EMIT modelReset(); });
+}
+
+void OverlayService::announceRestored(const NodeFates &fates)
+{
+    const NodeList enabled = fates.changed.value(Property::Enabled) + reachedBy(fates.moved);
     announceStructure(&kxOverlayService::nodesAdded, fates.added);
     announcePlaces(knownNodes(m_scene, fates.moved));
     announceStructure(&kxOverlayService::nodesRemoved, fates.removed);
-    for (auto it = changed.cbegin(); it != changed.cend(); ++it)
-        announceValue(it.key(), inTreeOrder(m_scene, knownNodes(m_scene, *it)));
+    // Slots may have changed the scene by now.
+    for (auto it = fates.changed.cbegin(); it != fates.changed.cend(); ++it) {
+        if (it.key() != Property::Enabled)
+            announceValue(it.key(), inTreeOrder(m_scene, knownNodes(m_scene, *it)));
+    }
     announce(&kxOverlayService::enabledStateChanged,
              inTreeOrder(m_scene, knownNodes(m_scene, enabled)));
 }
 
-StepGroup::StepGroup(OverlayService *service, const QString &text) : m_service(service)
+StepGroup::StepGroup(OverlayService *service, const QString &text, History::Group group)
+    : m_service(service)
 {
     Step step;
     step.text = text;
-    m_service->history().open(step);
+    m_service->history().open(step, group);
 }
 
 StepGroup::~StepGroup()
 {
-    m_service->history().close();
+    if (!m_isRolledBack)
+        m_service->history().close();
+}
+
+void StepGroup::rollBack()
+{
+    m_isRolledBack = true;
+    m_service->rollBack();
 }
 
 } // namespace viewer

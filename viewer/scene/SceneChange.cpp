@@ -154,17 +154,29 @@ void SceneChange::noteValue(const Node &node, Property property, const PropertyV
     values.push_back({node.id, property, valueOf(node, property), wanted});
 }
 
-void SceneChange::mergeValues(const SceneChange &later)
+SceneChange::Kind SceneChange::kind() const
+{
+    if (before.empty())
+        return after.empty() ? Kind::Values : Kind::Additions;
+    return after.empty() ? Kind::Removals : Kind::Moves;
+}
+
+void SceneChange::mergeValues(const SceneChange *later, std::size_t count)
 {
     QHash<QPair<NodeId, int>, std::size_t> known;
     for (std::size_t i = 0; i < values.size(); ++i)
         known.insert({values[i].node, int(values[i].property)}, i);
-    for (const Value &value : later.values) {
-        const auto it = known.constFind({value.node, int(value.property)});
-        if (it == known.constEnd())
+    for (const SceneChange *change = later; change != later + count; ++change) {
+        for (const Value &value : change->values) {
+            const QPair<NodeId, int> key(value.node, int(value.property));
+            const auto it = known.constFind(key);
+            if (it != known.constEnd()) {
+                values[*it].after = value.after;
+                continue;
+            }
+            known.insert(key, values.size());
             values.push_back(value);
-        else
-            values[*it].after = value.after;
+        }
     }
     const auto isBack = [](const Value &value) { return sameValue(value.before, value.after); };
     values.erase(std::remove_if(values.begin(), values.end(), isBack), values.end());

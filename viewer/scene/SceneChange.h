@@ -45,6 +45,9 @@ class SceneChange
 public:
     enum class Direction { Back, Forth };
 
+    /// What happened to nodes, besides values.
+    enum class Kind { Values, Additions, Removals, Moves };
+
     /// A node and its row in the children of a parent.
     struct Place
     {
@@ -70,6 +73,7 @@ public:
     std::vector<Place> after;
     std::vector<Value> values;
 
+    Kind kind() const;
     bool isEmpty() const { return before.empty() && after.empty() && values.empty(); }
 
     /// Keeps records that were taken out of the scene, in pre-order.
@@ -81,8 +85,8 @@ public:
     /// Notes a value before it is changed to the wanted one.
     void noteValue(const Node &node, Property property, const PropertyValue &wanted);
 
-    /// Goes on with the values of a later change of values; what is back where it was is dropped.
-    void mergeValues(const SceneChange &later);
+    /// Goes on with the values of later changes of values; what is back where it was is dropped.
+    void mergeValues(const SceneChange *later, std::size_t count = 1);
 
     /// Changes a scene that is in the state before (Forth) or after (Back) this change.
     void apply(Scene *scene, Direction direction);

@@ -55,6 +55,43 @@ QString shortened(const QString &name)
 
 } // namespace
 
+void mergeValueRuns(std::vector<SceneChange> *changes)
+{
+    std::vector<SceneChange> merged;
+    merged.reserve(changes->size());
+    for (std::size_t i = 0; i < changes->size(); ++i) {
+        SceneChange &first = (*changes)[i];
+        std::size_t end = i + 1;
+        if (first.kind() == SceneChange::Kind::Values) {
+            while (end < changes->size() && (*changes)[end].kind() == SceneChange::Kind::Values)
+                ++end;
+            first.mergeValues(changes->data() + i + 1, end - i - 1);
+        }
+        if (!first.isEmpty())
+            merged.push_back(std::move(first));
+        i = end - 1;
+    }
+    *changes = std::move(merged);
+}
+
+StepPart nextPart(Step *step, SceneChange::Direction direction, std::size_t done)
+{
+    StepPart part;
+    SceneChange::Kind kind = SceneChange::Kind::Values;
+    const std::size_t count = step->changes.size();
+    for (std::size_t i = done; i < count; ++i) {
+        const bool isForth = direction == SceneChange::Direction::Forth;
+        SceneChange &change = step->changes[isForth ? i : count - 1 - i];
+        if (change.kind() != SceneChange::Kind::Values) {
+            if (kind != SceneChange::Kind::Values && kind != change.kind())
+                break;
+            kind = change.kind();
+        }
+        part.push_back(&change);
+    }
+    return part;
+}
+
 QString stepText(const Step &step)
 {
     if (!step.text.isEmpty())

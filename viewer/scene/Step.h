@@ -47,6 +47,18 @@ struct Step
     std::vector<SceneChange> changes;
 };
 
+/// Makes one change of each run of changes that only write values, and none of what came back to
+/// where it was.
+void mergeValueRuns(std::vector<SceneChange> *changes);
+
+/// Consecutive changes of a step that can be announced as one: besides values they only add, only
+/// remove or only move nodes. In the order in which they are carried out.
+using StepPart = std::vector<SceneChange *>;
+
+/// The part that comes next on the way through a step of which `done` changes are behind; empty at
+/// the end.
+StepPart nextPart(Step *step, SceneChange::Direction direction, std::size_t done);
+
 /// What is done, for a list: "Set font colour of 3 overlays". Names are shortened to one short line.
 QString stepText(const Step &step);
 

@@ -4,6 +4,7 @@
 #include "host/kxKernelServiceFactory.h"
 #include "overlayeditor/model/kxOverlayQtModel.h"
 #include "tests/support/KxTest.h"
+#include "tests/support/Seeds.h"
 #include "tests/viewer/scene/RandomEdits.h"
 #include "viewer/scene/SceneWriter.h"
 
@@ -23,6 +24,10 @@ private Q_SLOTS:
     void shouldComeBackByteForByte();
     void shouldBeFollowedByTheTree_data();
     void shouldBeFollowedByTheTree();
+    void shouldBeFollowedThroughMixedSteps_data();
+    void shouldBeFollowedThroughMixedSteps();
+    void shouldBeFollowedWhenSlotsInterfere_data();
+    void shouldBeFollowedWhenSlotsInterfere();
 };
 
 namespace {
@@ -109,12 +114,105 @@ void tst_History_random::shouldBeFollowedByTheTree()
     }
 }
 
+/// Steps as scripts make them, of many operations of all kinds.
+void tst_History_random::shouldBeFollowedThroughMixedSteps_data()
+{
+    seeds::addRows(40, 1000);
+}
+
+void tst_History_random::shouldBeFollowedThroughMixedSteps()
+{
+    QFETCH(quint32, seed);
+    OverlayService service;
+    const Registered registered(&service);
+    kxOverlayQtModel model;
+    service.setScene(Scene());
+    RandomEdits user(&service, seed);
+    QRandomGenerator random(seed);
+    QVector<QByteArray> files{fileOf(service)};
+    while (files.size() < 8) {
+        std::optional<StepGroup> group;
+        group.emplace(&service, QStringLiteral("several"), History::Group::OwnHistory);
+        for (auto edits = random.bounded(60); edits > 0; --edits) {
+            const auto choice = random.bounded(10);
+            if (choice == 0)
+                service.undo();
+            else if (choice == 1)
+                service.redo();
+            else
+                user.edit();
+        }
+        if (random.bounded(4) == 0)
+            group->rollBack();
+        group.reset();
+        QCOMPARE(rowsOf(model), rowsOf(service.scene()));
+        if (service.history().stack()->count() == files.size() - 1)
+            QCOMPARE(fileOf(service), files.constLast());
+        else
+            files.append(fileOf(service));
+    }
+    const auto comesTo = [&](int i) {
+        return fileOf(service) == files.at(i) && rowsOf(model) == rowsOf(service.scene());
+    };
+    for (int i = files.size() - 2; i >= 0; --i) {
+        service.undo();
+        QVERIFY(comesTo(i));
+    }
+    for (int i = 1; i < files.size(); ++i) {
+        service.redo();
+        QVERIFY(comesTo(i));
+    }
+}
+
+void tst_History_random::shouldBeFollowedWhenSlotsInterfere_data()
+{
+    seeds::addRows(20, 300);
+}
+
+/// Somebody answers what is announced, moves included, with operations and undo of their own.
+void tst_History_random::shouldBeFollowedWhenSlotsInterfere()
+{
+    QFETCH(quint32, seed);
+    OverlayService service;
+    const Registered registered(&service);
+    kxOverlayQtModel model;
+    service.setScene(Scene());
+    RandomEdits user(&service, seed);
+    QRandomGenerator random(seed);
+    int answers = 0;
+    const auto answer = [&] {
+        if (answers == 0)
+            return;
+        --answers;
+        const auto choice = random.bounded(6);
+        if (choice == 0)
+            service.undo();
+        else if (choice == 1)
+            service.redo();
+        else
+            user.edit();
+    };
+    connect(&service, &kxOverlayService::nodesMoved, this, answer);
+    connect(&service, &kxOverlayService::nodesAdded, this, answer);
+    connect(&service, &kxOverlayService::nodesRemoved, this, answer);
+    for (int i = 0; i < 60; ++i) {
+        {
+            const StepGroup group(&service, QStringLiteral("several"));
+            for (auto edits = random.bounded(8); edits > 0; --edits)
+                user.edit();
+        }
+        answers = 2;
+        random.bounded(2) == 0 ? service.undo() : service.redo();
+        answers = 0;
+        service.setName({}, QString()); // has what was put off announced
+        QCOMPARE(rowsOf(model), rowsOf(service.scene()));
+    }
+    disconnect(&service, nullptr, this, nullptr);
+}
+
 void tst_History_random::shouldComeBackByteForByte_data()
 {
-    QTest::addColumn<quint32>("seed");
-    const bool isLong = qEnvironmentVariableIsSet("KX_LONG_TESTS");
-    for (quint32 seed = 1; seed <= (isLong ? 100U : 20U); ++seed)
-        QTest::addRow("seed %u", seed) << seed;
+    seeds::addRows(20, 100);
 }
 
 void tst_History_random::shouldComeBackByteForByte()
