@@ -8,6 +8,7 @@ import re
 CALL = re.compile(r"^\s+[\w:>()\[\].*-]+\(.*\);$")
 # Objects whose only work is to be there until the end of the block.
 GUARD_OBJECT = re.compile(r"^\s+const (?:QSignalBlocker|QScopedValueRollback|\w*Guard\b)")
+ENTRY = re.compile(r"^\s+\{.*\},$")
 CONDITION = re.compile(r"^(\s*)(\} else )?if \((.*)\)( \{)?$")
 LEAVES = re.compile(r"^\s+(return\b.*|continue|break);$")
 STATEMENT = re.compile(r"^\s+(?!return|break|continue|case|const |auto |Q_UNUSED)[\w*].*;$")
@@ -17,6 +18,8 @@ SWAPS = [
     (" > ", " >= "), (" <= ", " < "), (" >= ", " > "), (" + 1", ""), (" - 1", ""), ("++", "--"),
     ("true", "false"), ("false", "true"), ("(0, ", "(1, "), (", 0)", ", 1)"), (" = 0;", " = 1;"),
     (".first()", ".last()"), (".last()", ".first()"), ("takeFirst", "takeLast"),
+    (".size()", ".size() - 1"), ("rowCount()", "rowCount() - 1"), ("NodeIdRole", "ActiveRole"),
+    ("ActiveRole", "NodeIdRole"), ("Qt::EditRole", "Qt::DisplayRole"),
     ("Qt::DisplayRole", "Qt::ToolTipRole"), ("Qt::CheckStateRole", "Qt::StatusTipRole"),
     ("Qt::ForegroundRole", "Qt::BackgroundRole"), ("Qt::DecorationRole", "Qt::ToolTipRole"),
     ("Qt::UserRole + 1", "Qt::UserRole + 3"), ("Qt::UserRole", "Qt::DisplayRole"),
@@ -27,12 +30,18 @@ SWAPS = [
 
 
 def dropped_call(lines, at):
-    """A call is left out, a signal block or another guard not held."""
+    """A call or a connection is left out, a signal block or another guard not held."""
     line = lines[at]
-    if CALL.match(line) and not line.strip().startswith(("return", "Q_UNUSED", "connect(")):
+    if CALL.match(line) and not line.strip().startswith(("return", "Q_UNUSED")):
         yield indent(line) + "(void)0;"
     elif GUARD_OBJECT.match(line) and line.endswith(";"):
         yield indent(line) + "(void)0;"
+
+
+def dropped_entry(lines, at):
+    """A table lacks an entry: a connection, a key."""
+    if ENTRY.match(lines[at]):
+        yield ""
 
 
 def dropped_check(lines, at):
@@ -40,6 +49,13 @@ def dropped_check(lines, at):
     found = CONDITION.match(lines[at])
     if found and at + 1 < len(lines) and LEAVES.match(lines[at + 1]):
         yield f"{found[1]}{found[2] or ''}if (false && ({found[3]})){found[4] or ''}"
+
+
+def unguarded_work(lines, at):
+    """Work is done whether or not its condition holds."""
+    found = CONDITION.match(lines[at])
+    if found and at + 1 < len(lines) and not LEAVES.match(lines[at + 1]):
+        yield f"{found[1]}{found[2] or ''}if (true || ({found[3]})){found[4] or ''}"
 
 
 def turned_condition(lines, at):
@@ -67,7 +83,8 @@ def swapped_statements(lines, at):
         yield lines[at + 1] + "\n" + lines[at]
 
 
-OPERATORS = (dropped_call, dropped_check, turned_condition, swapped_words, swapped_statements)
+OPERATORS = (dropped_call, dropped_entry, dropped_check, unguarded_work, turned_condition, swapped_words,
+             swapped_statements)
 
 
 def indent(line):
