@@ -15,15 +15,23 @@ constexpr int Modifiers = int(Qt::KeyboardModifierMask);
 
 QString plainText(const QAction &action)
 {
-    return action.text().remove(QLatin1Char('&')).remove(QStringLiteral("…"));
+    return action.iconText().remove(QStringLiteral("…"));
 }
 
-void addKeys(const QList<QAction *> &actions, const QString &category,
+bool actsIn(KeyScope scope, const QAction &action)
+{
+    return scope == KeyScope::Anywhere || action.shortcutContext() == Qt::WindowShortcut
+           || action.shortcutContext() == Qt::ApplicationShortcut;
+}
+
+void addKeys(const QList<QAction *> &actions, const QString &category, KeyScope scope,
              QVector<kxShortcut::Entry> *keys)
 {
     for (const QAction *action : actions) {
         if (action->menu())
-            addKeys(action->menu()->actions(), category, keys);
+            addKeys(action->menu()->actions(), category, scope, keys);
+        if (!actsIn(scope, *action))
+            continue;
         const QList<QKeySequence> sequences = action->shortcuts();
         for (const QKeySequence &sequence : sequences) {
             // A key pressed after another one is no clash with a single one.
@@ -37,10 +45,11 @@ void addKeys(const QList<QAction *> &actions, const QString &category,
 
 } // namespace
 
-QVector<kxShortcut::Entry> menuKeys(const QMenuBar &menuBar, const QString &category)
+QVector<kxShortcut::Entry> menuKeys(const QMenuBar &menuBar, const QString &category,
+                                    KeyScope scope)
 {
     QVector<kxShortcut::Entry> keys;
-    addKeys(menuBar.actions(), category, &keys);
+    addKeys(menuBar.actions(), category, scope, &keys);
     return keys;
 }
 
@@ -53,8 +62,7 @@ QStringList keyClashes(const QVector<kxShortcut::Entry> &own,
             if (key.key != other.key || key.modifiers != other.modifiers)
                 continue;
             clashes.append(QCoreApplication::translate(
-                               "KeyList", "The key %1 stands for \"%2\" of the menu and for \"%3\" "
-                                          "of the module %4.")
+                               "KeyList", R"(%1 is the key of "%2" in the menu and of "%3" in %4.)")
                                .arg(kxShortcut::convertKey(key.key, key.modifiers, false),
                                     key.description, other.description, other.category));
         }

@@ -4,7 +4,6 @@
 #include "viewer/app/MainWindow.h"
 
 #include "host/kxIconManager.h"
-#include "viewer/app/KeyList.h"
 #include "viewer/app/ModulePanels.h"
 #include "viewer/app/Scaled.h"
 #include "viewer/app/ShortcutsDialog.h"
@@ -235,23 +234,31 @@ void MainWindow::toggleFullScreen(bool on)
                       : windowState() & ~Qt::WindowFullScreen);
 }
 
-QVector<kxShortcut::Entry> MainWindow::ownKeys() const
+QVector<kxShortcut::Entry> MainWindow::ownKeys(KeyScope scope) const
 {
-    return menuKeys(*menuBar(), QApplication::applicationDisplayName());
+    return menuKeys(*menuBar(), QApplication::applicationDisplayName(), scope);
 }
 
 void MainWindow::reportKeyClashes()
 {
-    const QStringList clashes = keyClashes(ownKeys(), kxShortcut::registeredKeys());
-    if (!clashes.isEmpty())
-        notify(Severity::Warning, clashes.join(QLatin1Char('\n')));
+    QStringList lines = keyClashes(ownKeys(KeyScope::WholeWindow), kxShortcut::registeredKeys());
+    if (lines.isEmpty())
+        return;
+    lines.append(tr("The command of the menu goes first."));
+    notify(Severity::Warning, lines.join(QLatin1Char('\n')));
 }
 
 void MainWindow::showShortcuts()
 {
-    auto *dialog = new ShortcutsDialog(ownKeys() + kxShortcut::registeredKeys(), this);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    auto *dialog = findChild<ShortcutsDialog *>();
+    if (!dialog) {
+        dialog =
+            new ShortcutsDialog(ownKeys(KeyScope::Anywhere) + kxShortcut::registeredKeys(), this);
+        dialog->setAttribute(Qt::WA_DeleteOnClose);
+    }
     dialog->show();
+    dialog->raise();
+    dialog->activateWindow();
 }
 
 void MainWindow::showAbout()

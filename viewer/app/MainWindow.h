@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "host/kxShortcut.h"
+#include "viewer/app/KeyList.h"
 #include "viewer/app/NoticeArea.h"
 #include "viewer/app/ViewArea.h"
 
@@ -88,7 +88,7 @@ private:
     void createHelpMenu();
     void createStatusBar();
     void toggleFullScreen(bool on);
-    QVector<kxShortcut::Entry> ownKeys() const;
+    QVector<kxShortcut::Entry> ownKeys(KeyScope scope) const;
     void showShortcuts();
     void showAbout();
 

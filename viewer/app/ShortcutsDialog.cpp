@@ -27,6 +27,9 @@ ShortcutsDialog::ShortcutsDialog(const QVector<kxShortcut::Entry> &keys, QWidget
     m_list->setAccessibleName(tr("Keyboard shortcuts"));
     m_list->setUniformRowHeights(true);
     m_list->setAlternatingRowColors(true);
+    // What a search finds must not lie in a closed category.
+    m_list->setItemsExpandable(false);
+    m_list->setRootIsDecorated(false);
     fill(keys);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     // Return in the search box goes on to the list.
@@ -46,22 +49,44 @@ ShortcutsDialog::ShortcutsDialog(const QVector<kxShortcut::Entry> &keys, QWidget
 void ShortcutsDialog::fill(const QVector<kxShortcut::Entry> &keys)
 {
     QHash<QString, QTreeWidgetItem *> categories;
+    QHash<QPair<QTreeWidgetItem *, QString>, QTreeWidgetItem *> commands;
     for (const kxShortcut::Entry &key : keys) {
         QTreeWidgetItem *&category = categories[key.category];
-        if (!category) {
-            category = new QTreeWidgetItem(m_list, {key.category});
-            category->setFirstColumnSpanned(true);
-            category->setExpanded(true);
-            QFont bold = font();
-            bold.setBold(true);
-            category->setFont(0, bold);
-        }
-        new QTreeWidgetItem(
-            category, {key.description, kxShortcut::convertKey(key.key, key.modifiers, false)});
+        if (!category)
+            category = addCategory(key.category);
+        QTreeWidgetItem *&command = commands[{category, key.description}];
+        const QString text = kxShortcut::convertKey(key.key, key.modifiers, false);
+        if (command)
+            command->setText(1, tr("%1 or %2").arg(command->text(1), text));
+        else
+            command = new QTreeWidgetItem(category, {key.description, text});
     }
-    m_list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-    m_list->header()->setStretchLastSection(false);
-    m_list->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+    fitColumns(commands.values());
+}
+
+QTreeWidgetItem *ShortcutsDialog::addCategory(const QString &name)
+{
+    auto *category = new QTreeWidgetItem(m_list, {name});
+    category->setFirstColumnSpanned(true);
+    category->setExpanded(true);
+    QFont bold = font();
+    bold.setBold(true);
+    category->setFont(0, bold);
+    return category;
+}
+
+/// The column of the keys has room for the longest, also while that is not shown.
+void ShortcutsDialog::fitColumns(const QList<QTreeWidgetItem *> &commands)
+{
+    const QFontMetrics metrics = m_list->fontMetrics();
+    int widest = 0;
+    for (const QTreeWidgetItem *command : commands)
+        widest = qMax(widest, metrics.horizontalAdvance(command->text(1)));
+    QHeaderView *header = m_list->header();
+    header->setStretchLastSection(false);
+    header->setSectionResizeMode(0, QHeaderView::Stretch);
+    header->setSectionResizeMode(1, QHeaderView::Fixed);
+    header->resizeSection(1, widest + 4 * metrics.averageCharWidth());
 }
 
 void ShortcutsDialog::filter(const QString &text)

@@ -10,6 +10,7 @@
 class QLabel;
 class QKXSearchBox;
 class QTreeWidget;
+class QTreeWidgetItem;
 
 namespace viewer {
 
@@ -24,6 +25,8 @@ public:
 
 private:
     void fill(const QVector<kxShortcut::Entry> &keys);
+    QTreeWidgetItem *addCategory(const QString &name);
+    void fitColumns(const QList<QTreeWidgetItem *> &commands);
     void filter(const QString &text);
 
     QKXSearchBox *m_search;

@@ -56,6 +56,9 @@ UndoActions::UndoActions(OverlayService *service, QMenu *menu)
     , m_undo(add(menu, "Undo", "undo", QKeySequence::Undo, &OverlayService::undo))
     , m_redo(add(menu, "Redo", "redo", QKeySequence::Redo, &OverlayService::redo))
 {
+    // What the commands are called where it does not matter what would be undone.
+    m_undo->setIconText(tr("Undo"));
+    m_redo->setIconText(tr("Redo"));
     menu->addSeparator();
     const QUndoStack *stack = service->history().stack();
     connect(stack, &QUndoStack::indexChanged, this, &UndoActions::refresh);

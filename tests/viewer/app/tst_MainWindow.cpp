@@ -9,12 +9,14 @@
 #include "viewer/app/Scaled.h"
 #include "viewer/app/Viewport.h"
 
+#include <QDialog>
 #include <QDockWidget>
 #include <QDropEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QSettings>
 #include <QSignalSpy>
@@ -95,6 +97,8 @@ private Q_SLOTS:
     void shouldAskForAFileThatIsDropped();
     void shouldRefuseADropThatIsNoFile();
     void shouldStayOpenWhenItMayNotClose();
+    void shouldNameKeysThatStandForTwoCommands();
+    void shouldOpenOneListOfShortcuts();
     void shouldSayThatThereIsNo3DView();
     void shouldShowNoticesUntilTheyAreDismissed();
     void shouldShowAllLinesOfANotice();
@@ -337,6 +341,36 @@ void tst_MainWindow::shouldStayOpenWhenItMayNotClose()
     QVERIFY(window.close());
     QCOMPARE(closing.count(), 1);
     QCOMPARE(questions, 2);
+}
+
+void tst_MainWindow::shouldNameKeysThatStandForTwoCommands()
+{
+    const auto forget = qScopeGuard([] { kxShortcut::clear(); });
+    Window window;
+    kxShortcut::addKey("Lights", Qt::Key_F11, Qt::ShiftModifier, "Dim");
+    // A key of the view alone, which does not keep it from a panel.
+    kxShortcut::addKey("Lights", Qt::Key_Home, Qt::NoModifier, "First");
+    window.reportKeyClashes();
+    QCOMPARE(window.notices(), QStringList());
+    kxShortcut::addKey("Lights", Qt::Key_F11, Qt::NoModifier, "Solo");
+    window.reportKeyClashes();
+    QCOMPARE(
+        window.notices(),
+        QStringList("F11 is the key of \"Full Screen\" in the menu and of \"Solo\" in Lights.\n"
+                    "The command of the menu goes first."));
+}
+
+void tst_MainWindow::shouldOpenOneListOfShortcuts()
+{
+    Window window;
+    auto *entry = window.findChild<QAction *>("keyboardShortcutsEntry");
+    entry->trigger();
+    entry->trigger();
+    const QPointer<QDialog> list = window.findChild<QDialog *>("keyboardShortcuts");
+    QVERIFY(list->isVisible());
+    QCOMPARE(window.findChildren<QDialog *>().size(), 1);
+    list->close();
+    QTRY_VERIFY(!list);
 }
 
 void tst_MainWindow::shouldSayThatThereIsNo3DView()

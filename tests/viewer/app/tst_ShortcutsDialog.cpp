@@ -51,9 +51,14 @@ class tst_ShortcutsDialog : public KxTest
 
 private Q_SLOTS:
     void shouldListKeysByCategory();
+    void shouldListTheKeysOfOneCommandTogether();
+    void shouldShowItsKeysWholeAndInPlaceWhileItFilters();
+    void shouldKeepItsCategoriesOpen();
     void shouldFindByCommandKeyOrCategory_data();
     void shouldFindByCommandKeyOrCategory();
     void shouldReadTheKeysOfMenus();
+    void shouldNameCommandsAlikeWhateverTheMenuSays();
+    void shouldLeaveOutKeysOfOneWidgetWhereTheWholeWindowIsMeant();
     void shouldNameClashes();
 };
 
@@ -64,6 +69,47 @@ void tst_ShortcutsDialog::shouldListKeysByCategory()
              (QStringList{"Overlays (Duplicate Overlay Ctrl+D, Find Overlay Ctrl+F)",
                           "Lights (Dim Ctrl+Shift+D)"}));
     QCOMPARE(dialog.findChild<QLabel *>()->text(), QString("Shortcuts shown: 3"));
+}
+
+void tst_ShortcutsDialog::shouldListTheKeysOfOneCommandTogether()
+{
+    const ShortcutsDialog dialog({
+        {"Viewer", Qt::Key_Z, Qt::ControlModifier, "Undo"},
+        {"Overlays", Qt::Key_F14, Qt::NoModifier, "Undo"},
+        {"Viewer", Qt::Key_F14, Qt::NoModifier, "Undo"},
+    });
+    QCOMPARE(rowsOf(dialog), (QStringList{"Viewer (Undo Ctrl+Z or F14)", "Overlays (Undo F14)"}));
+}
+
+void tst_ShortcutsDialog::shouldShowItsKeysWholeAndInPlaceWhileItFilters()
+{
+    QVector<kxShortcut::Entry> keys = someKeys();
+    keys.append({"Lights", Qt::Key_MediaTogglePlayPause,
+                 Qt::ControlModifier | Qt::ShiftModifier | Qt::AltModifier, "Play"});
+    ShortcutsDialog dialog(keys);
+    dialog.show();
+    const auto *list = dialog.findChild<QTreeWidget *>();
+    const int width = list->columnWidth(1);
+    const QString widest = list->topLevelItem(1)->child(1)->text(1);
+    QVERIFY(width > list->fontMetrics().horizontalAdvance(widest));
+    QVERIFY(width < list->viewport()->width());
+    dialog.findChild<QKXSearchBox *>()->setText("find");
+    QCoreApplication::processEvents();
+    QCOMPARE(list->columnWidth(1), width);
+}
+
+/// What a search finds must not lie in a closed category.
+void tst_ShortcutsDialog::shouldKeepItsCategoriesOpen()
+{
+    ShortcutsDialog dialog(someKeys());
+    dialog.show();
+    auto *list = dialog.findChild<QTreeWidget *>();
+    list->setCurrentItem(list->topLevelItem(0));
+    QTest::keyClick(list, Qt::Key_Left);
+    const QRect row = list->visualItemRect(list->topLevelItem(0));
+    QTest::mouseDClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, row.center());
+    QVERIFY(list->topLevelItem(0)->isExpanded());
+    QVERIFY(!list->rootIsDecorated());
 }
 
 void tst_ShortcutsDialog::shouldFindByCommandKeyOrCategory_data()
@@ -108,15 +154,42 @@ void tst_ShortcutsDialog::shouldReadTheKeysOfMenus()
     QCOMPARE(read, (QStringList{"Viewer Open Ctrl+O", "Viewer Deep F5", "Viewer Deep Alt+R"}));
 }
 
+/// The menu says what would be undone, and marks a key with an ampersand.
+void tst_ShortcutsDialog::shouldNameCommandsAlikeWhateverTheMenuSays()
+{
+    QMenuBar bar;
+    QAction *undo = bar.addMenu("&Edit")->addAction("&Undo Create \"Text 1\"");
+    undo->setIconText("Undo");
+    undo->setShortcut(QKeySequence("Ctrl+Z"));
+    bar.addAction("Cut && &Paste")->setShortcut(QKeySequence("Ctrl+X"));
+    const QVector<kxShortcut::Entry> keys = menuKeys(bar, "Viewer");
+    QCOMPARE(keys.at(0).description, QString("Undo"));
+    QCOMPARE(keys.at(1).description, QString("Cut & Paste"));
+}
+
+void tst_ShortcutsDialog::shouldLeaveOutKeysOfOneWidgetWhereTheWholeWindowIsMeant()
+{
+    QMenuBar bar;
+    QAction *reset = bar.addMenu("View")->addAction("Reset");
+    reset->setShortcut(Qt::Key_Home);
+    QCOMPARE(menuKeys(bar, "Viewer", KeyScope::WholeWindow).size(), 1);
+    for (const auto context : {Qt::WidgetShortcut, Qt::WidgetWithChildrenShortcut}) {
+        reset->setShortcutContext(context);
+        QVERIFY(menuKeys(bar, "Viewer", KeyScope::WholeWindow).isEmpty());
+        QCOMPARE(menuKeys(bar, "Viewer").size(), 1);
+    }
+}
+
 void tst_ShortcutsDialog::shouldNameClashes()
 {
     const QVector<kxShortcut::Entry> own{
         {"Viewer", Qt::Key_D, Qt::NoModifier, "Draw"},
         {"Viewer", Qt::Key_F, Qt::ControlModifier, "Full Screen"},
     };
-    QCOMPARE(keyClashes(own, someKeys()),
-             QStringList{"The key Ctrl+F stands for \"Full Screen\" of the menu and for "
-                         "\"Find Overlay\" of the module Overlays."});
+    QCOMPARE(
+        keyClashes(own, someKeys()),
+        QStringList{"Ctrl+F is the key of \"Full Screen\" in the menu and of \"Find Overlay\" in "
+                    "Overlays."});
 }
 
 KX_TEST_MAIN(tst_ShortcutsDialog)

@@ -78,6 +78,7 @@ void tst_UndoActions::cleanup()
 void tst_UndoActions::shouldNameTheSteps()
 {
     QCOMPARE(m_window->undo()->text(), QString("&Undo Create \"Text 1\""));
+    QCOMPARE(m_window->undo()->iconText(), QString("Undo"));
     QCOMPARE(m_window->redo()->text(), QString("&Redo"));
     QVERIFY(m_window->undo()->isEnabled());
     QVERIFY(!m_window->redo()->isEnabled());
