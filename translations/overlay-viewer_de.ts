@@ -194,6 +194,14 @@
         <source>Set vertical offset of %1 overlays</source>
         <translation>Vertikalen Versatz von %1 Overlays setzen</translation>
     </message>
+    <message>
+        <source>Move &quot;%1&quot; in the view</source>
+        <translation>„%1“ in der Ansicht verschieben</translation>
+    </message>
+    <message>
+        <source>Move %1 overlays in the view</source>
+        <translation>%1 Overlays in der Ansicht verschieben</translation>
+    </message>
 </context>
 <context>
     <name>viewer</name>

@@ -194,6 +194,14 @@
         <source>Set vertical offset of %1 overlays</source>
         <translation>设置 %1 个叠加层的垂直偏移</translation>
     </message>
+    <message>
+        <source>Move &quot;%1&quot; in the view</source>
+        <translation>在视图中移动“%1”</translation>
+    </message>
+    <message>
+        <source>Move %1 overlays in the view</source>
+        <translation>在视图中移动 %1 个叠加层</translation>
+    </message>
 </context>
 <context>
     <name>viewer</name>

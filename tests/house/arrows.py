@@ -6,8 +6,8 @@
     host <- hostlib <- viewer,  host <- overlayeditor,  host <- examples,
     host <- kit;  tests and bench see all.
 
-The viewer knows the module as a file that it loads, never as a header. Below viewer/, scene and
-render do without windows: they may not include what stands beside them.
+The viewer knows the module as a file that it loads, never as a header. Below viewer/, scene,
+render and edit do without windows: each may include those before it, and none what shows them.
 
 Usage: arrows.py ROOT
 """
@@ -28,6 +28,7 @@ ARROWS = {
     "viewer": {"host", "hostlib", "viewer"},
     "viewer/scene": {"host", "hostlib", "viewer/scene"},
     "viewer/render": {"host", "hostlib", "viewer/scene", "viewer/render"},
+    "viewer/edit": {"host", "hostlib", "viewer/scene", "viewer/render", "viewer/edit"},
     "examples": {"host", "examples"},
     "kit": {"host", "kit"},
     "tests": ALL,

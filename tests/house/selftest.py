@@ -52,6 +52,8 @@ class Arrows(Tree):
                              ("overlayeditor/model/a.cpp", "viewer/x.h"),
                              ("viewer/scene/a.cpp", "viewer/MainWindow.h"),
                              ("viewer/scene/a.cpp", "viewer/render/x.h"),
+                             ("viewer/render/a.cpp", "viewer/edit/x.h"),
+                             ("viewer/edit/a.cpp", "viewer/app/x.h"),
                              ("viewer/a.cpp", "tests/support/x.h"),
                              ("examples/host/a.cpp", "viewer/x.h")):
             with self.subTest(name=name, target=target):

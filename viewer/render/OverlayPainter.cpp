@@ -35,6 +35,11 @@ bool isSeen(const QRectF &box, const ViewGeometry &view)
     return !box.isEmpty() && reach.intersects(QRectF(QPointF(), view.size));
 }
 
+bool isVisible(const QColor &color)
+{
+    return color.isValid() && color.alpha() > 0;
+}
+
 /// Stands for an image that cannot be read: a dashed frame with the file's name.
 void paintPlaceholder(QPainter &painter, const QString &path, const QRectF &box)
 {
@@ -57,6 +62,22 @@ void paintPlaceholder(QPainter &painter, const QString &path, const QRectF &box)
 
 } // namespace
 
+/// Calls visit(const Node &) for the active overlays, the lowest first.
+template<class Visit>
+void OverlayPainter::visitActive(Visit visit) const
+{
+    std::vector<NodeId> pending{Scene::RootId};
+    while (!pending.empty()) {
+        const Node &node = *m_scene.find(pending.back());
+        pending.pop_back();
+        if (!node.enabled)
+            continue;
+        if (node.isOverlay())
+            visit(node);
+        pending.insert(pending.end(), node.children.rbegin(), node.children.rend());
+    }
+}
+
 OverlayPainter::OverlayPainter(const Scene &scene, ImageCache &images)
     : m_scene(scene)
     , m_images(images)
@@ -69,20 +90,26 @@ void OverlayPainter::paint(QPainter &painter, const QSize &size, double dpi)
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing
                            | QPainter::SmoothPixmapTransform);
-    std::vector<NodeId> pending{Scene::RootId};
-    while (!pending.empty()) {
-        const Node &node = *m_scene.find(pending.back());
-        pending.pop_back();
-        if (!node.enabled)
-            continue;
-        if (node.isOverlay() && node.overlay.isText())
+    visitActive([&](const Node &node) {
+        if (node.overlay.isText())
             paintText(painter, node, view);
-        else if (node.isOverlay())
+        else
             paintImage(painter, node.overlay, view);
-        pending.insert(pending.end(), node.children.rbegin(), node.children.rend());
-    }
+    });
     painter.restore();
     forgetRemovedTexts();
+}
+
+std::vector<DrawnOverlay> OverlayPainter::drawnOverlays(const QSize &size, double dpi)
+{
+    const ViewGeometry view{size, dpi};
+    std::vector<DrawnOverlay> drawn;
+    visitActive([&](const Node &node) {
+        const QRectF place = box(node, view);
+        if (!place.isEmpty())
+            drawn.push_back({node.id, place, cover(node, place)});
+    });
+    return drawn;
 }
 
 QRectF OverlayPainter::boxOf(NodeId node, const QSize &size, double dpi)
@@ -98,6 +125,13 @@ QRectF OverlayPainter::box(const Node &node, const ViewGeometry &view)
         return boxFor(overlay, textOf(node).size(), view);
     const QString &path = overlay.image;
     return path.isEmpty() ? QRectF() : boxFor(overlay, proportionsOf(m_images.image(path)), view);
+}
+
+QRectF OverlayPainter::cover(const Node &node, const QRectF &box)
+{
+    if (!node.overlay.isText() || !isVisible(backgroundColor(node.overlay)))
+        return box;
+    return box.united(backgroundBox(box, box.height() / textOf(node).size().height()));
 }
 
 const TextBlock &OverlayPainter::textOf(const Node &node)
@@ -120,7 +154,7 @@ void OverlayPainter::paintText(QPainter &painter, const Node &node, const ViewGe
     if (!isSeen(box, view))
         return;
     const QColor background = backgroundColor(overlay);
-    if (background.isValid() && background.alpha() > 0)
+    if (isVisible(background))
         painter.fillRect(backgroundBox(box, box.height() / block.size().height()), background);
     if (overlay.fontColor.isValid())
         block.draw(&painter, box, overlay.fontColor, std::clamp(overlay.position.x(), 0.0, 1.0));

@@ -14,6 +14,14 @@ class QPainter;
 
 namespace viewer {
 
+/// An overlay that is drawn, and where: in pixels from the top left corner of the view.
+struct DrawnOverlay
+{
+    QRPC::NodeId node = 0;
+    QRectF box;   ///< its own box, which the anchor is applied to
+    QRectF cover; ///< all that it covers: of a text with a visible background, that box too
+};
+
 /// Draws the active overlays of a scene, later siblings above earlier ones. Owned by whoever shows
 /// or exports the scene, which outlives the painter as the image cache does; GUI thread only.
 ///
@@ -37,6 +45,10 @@ public:
     /// pixels from the top left. Empty for other nodes and for what is not drawn.
     QRectF boxOf(QRPC::NodeId node, const QSize &size, double dpi);
 
+    /// All that paint() draws in that view, the lowest first, as far as it has a place; also what
+    /// lies beside the view.
+    std::vector<DrawnOverlay> drawnOverlays(const QSize &size, double dpi);
+
     /// How many texts were laid out so far.
     int layoutCount() const { return m_layoutCount; }
 
@@ -51,8 +63,11 @@ private:
         std::unique_ptr<TextBlock> block;
     };
 
+    template<class Visit>
+    void visitActive(Visit visit) const;
     const TextBlock &textOf(const Node &node);
     QRectF box(const Node &node, const ViewGeometry &view);
+    QRectF cover(const Node &node, const QRectF &box);
     void paintText(QPainter &painter, const Node &node, const ViewGeometry &view);
     void paintImage(QPainter &painter, const Overlay &overlay, const ViewGeometry &view);
     void forgetRemovedTexts();

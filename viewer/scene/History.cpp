@@ -264,6 +264,8 @@ void History::endGesture()
 void History::clear()
 {
     endGesture();
+    for (OpenGroup &group : m_open)
+        group = {group.sum, group.kind, {}, {}};
     m_stack.clear();
     m_stack.setClean();
 }

@@ -43,7 +43,7 @@ public:
     void open(const Step &first, Group group = Group::Plain);
     void close();
 
-    /// In a group with its own history: the next record goes on with the last one.
+    /// In a group: the next record goes on with the last one.
     void joinNext();
 
     /// @name Taking the scene back and forth
@@ -73,7 +73,7 @@ public:
     /// While a gesture is held, such as by a mouse button, pauses do not end it.
     void setHeld(bool held) { m_held = held; }
 
-    /// Forgets all steps, for another scene.
+    /// Forgets all steps, those of open groups too, for another scene.
     void clear();
 
     /// The scene is now what the file holds.

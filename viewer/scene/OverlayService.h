@@ -17,6 +17,13 @@ namespace viewer {
 struct MovePlan;
 struct NodeFates;
 
+/// An offset of one overlay, in points, y upwards.
+struct NodeOffset
+{
+    QRPC::NodeId node = 0;
+    QPointF offset;
+};
+
 /// The viewer's overlay service: owns the open scene, answers and changes it, and announces every
 /// change. The application creates it, registers it under kxOverlayService and keeps it as long as
 /// modules live; GUI thread only.
@@ -116,11 +123,16 @@ public:
     void setOffsetX(const QRPC::NodeList &nodes, float x) override;
     void setOffsetY(const QRPC::NodeList &nodes, float y) override;
 
+    /// Gives overlays an offset each, as moving several of them in the view does: one announcement,
+    /// and one step for as long as the same overlays are moved on.
+    void setOffsets(const QVector<NodeOffset> &offsets);
+
 Q_SIGNALS:
     /// An image file is to be read anew, since its path was set; sent before imageChanged().
     void imageFileSet(const QString &path);
 
 private:
+    friend class StepGroup;
     using NodeSignal = void (kxOverlayService::*)(const QRPC::NodeList &);
 
     const Overlay *findOverlay(QRPC::NodeId id) const;
@@ -181,6 +193,9 @@ class StepGroup
 public:
     StepGroup(OverlayService *service, const QString &text,
               History::Group group = History::Group::Plain);
+
+    /// The step is named as one of this operation on these nodes.
+    StepGroup(OverlayService *service, Operation operation, const QRPC::NodeList &nodes);
     ~StepGroup();
     Q_DISABLE_COPY(StepGroup)
 

@@ -166,6 +166,12 @@ StepGroup::StepGroup(OverlayService *service, const QString &text, History::Grou
     m_service->history().open(step, group);
 }
 
+StepGroup::StepGroup(OverlayService *service, Operation operation, const NodeList &nodes)
+    : m_service(service)
+{
+    m_service->history().open(service->stepOf(operation, nodes));
+}
+
 StepGroup::~StepGroup()
 {
     if (!m_isRolledBack)

@@ -197,4 +197,17 @@ void OverlayService::setOffsetY(const NodeList &nodes, float y)
                   }));
 }
 
+void OverlayService::setOffsets(const QVector<NodeOffset> &offsets)
+{
+    NodeList nodes;
+    QHash<NodeId, QPointF> wanted;
+    for (const NodeOffset &entry : offsets) {
+        nodes.append(entry.node);
+        wanted.insert(entry.node, entry.offset);
+    }
+    announceValue(Property::Offset,
+                  change(Operation::MoveInView, Property::Offset, nodes,
+                         [&wanted](const Node &node) { return wanted[node.id]; }));
+}
+
 } // namespace viewer

@@ -26,6 +26,7 @@ constexpr Words WordTable[] = {
     {Operation::Delete, QT_TRANSLATE_NOOP("Step", "Delete \"%1\""), QT_TRANSLATE_NOOP("Step", "Delete %1 items")},
     {Operation::Group, QT_TRANSLATE_NOOP("Step", "Group \"%1\""), QT_TRANSLATE_NOOP("Step", "Group %1 items")},
     {Operation::Move, QT_TRANSLATE_NOOP("Step", "Move \"%1\""), QT_TRANSLATE_NOOP("Step", "Move %1 items")},
+    {Operation::MoveInView, QT_TRANSLATE_NOOP("Step", "Move \"%1\" in the view"), QT_TRANSLATE_NOOP("Step", "Move %1 overlays in the view")},
     {Operation::Rename, QT_TRANSLATE_NOOP("Step", "Rename to \"%1\""), QT_TRANSLATE_NOOP("Step", "Rename %1 items")},
     {Operation::Enable, QT_TRANSLATE_NOOP("Step", "Switch on \"%1\""), QT_TRANSLATE_NOOP("Step", "Switch on %1 items")},
     {Operation::Disable, QT_TRANSLATE_NOOP("Step", "Switch off \"%1\""), QT_TRANSLATE_NOOP("Step", "Switch off %1 items")},
@@ -107,6 +108,7 @@ QString stepText(const Step &step)
 bool isContinuous(Operation operation)
 {
     switch (operation) {
+    case Operation::MoveInView:
     case Operation::SetText:
     case Operation::SetFontColor:
     case Operation::SetBackgroundColor:

@@ -16,6 +16,7 @@ enum class Operation {
     Delete,
     Group,
     Move,
+    MoveInView,
     Rename,
     Enable,
     Disable,

@@ -63,6 +63,9 @@ private Q_SLOTS:
     void shouldForgetTheTextsOfRemovedNodes();
     void shouldReadAnImageAnewWhenItIsSetAgain();
     void shouldGiveBoxesOfInactiveOverlaysToo();
+    void shouldListWhatIsDrawnFromBelow();
+    void shouldListTheBackgroundOfATextWithIt();
+    void shouldListWithoutLayingOutAnew();
     void shouldSurviveValuesWithoutSense();
     void shouldScaleWithTheDotsPerInch();
 
@@ -368,6 +371,39 @@ void tst_OverlayPainter::shouldGiveBoxesOfInactiveOverlaysToo()
     setUpText("e", "Text", 20);
     QVERIFY(!service().isActive(id("e")));
     QVERIFY(!m_painter->boxOf(id("e"), {320, 180}, 96).isEmpty());
+}
+
+void tst_OverlayPainter::shouldListWhatIsDrawnFromBelow()
+{
+    for (const char *name : {"a", "c", "d", "e"})
+        setUpText(name, "Text", 20);
+    setUpPicture("b", Qt::red, {30, 10});
+    service().setText(ids("c"), QString());
+    service().moveNodes(ids("d"), id("root"), 0);
+    QStringList names;
+    for (const viewer::DrawnOverlay &drawn : m_painter->drawnOverlays({320, 180}, 96)) {
+        names.append(service().getName(drawn.node));
+        QCOMPARE(drawn.box, m_painter->boxOf(drawn.node, {320, 180}, 96));
+        QCOMPARE(drawn.cover, drawn.box);
+    }
+    QCOMPARE(names, (QStringList{"d", "a", "b"})); // e is off, c without letters
+}
+
+void tst_OverlayPainter::shouldListTheBackgroundOfATextWithIt()
+{
+    setUpText("a", "M\nM", 36);
+    service().setBackgroundTransparency(ids("a"), Qt::black);
+    const viewer::DrawnOverlay drawn = m_painter->drawnOverlays({320, 180}, 72).front();
+    QCOMPARE(drawn.cover, viewer::backgroundBox(drawn.box, 36));
+}
+
+void tst_OverlayPainter::shouldListWithoutLayingOutAnew()
+{
+    service().setText(ids("a b c d"), "Text");
+    drawn();
+    service().setOffset(ids("a"), {4, 4});
+    m_painter->drawnOverlays({640, 480}, 192);
+    QCOMPARE(m_painter->layoutCount(), 4);
 }
 
 void tst_OverlayPainter::shouldSurviveValuesWithoutSense()

@@ -196,6 +196,10 @@ void tst_History::shouldNameTheStep_data()
     row("Delete 2 items", [](auto &s, auto of) { s.deleteNodes(of("a g")); });
     row("Group 2 items", [](auto &s, auto of) { s.groupNodes(of("a g")); });
     row("Move \"a\"", [](auto &s, auto of) { s.moveNodes(of("a"), of("g").first(), 0); });
+    row("Move \"a\" in the view", [](auto &s, auto of) {
+        s.setOffsets({{of("a").first(), {1, 0}}});
+        s.setOffsets({{of("a").first(), {2, 0}}});
+    });
     row("Rename to \"z\"", [](auto &s, auto of) { s.setName(of("a"), "z"); });
     row("Switch off 2 items", [](auto &s, auto of) { s.setEnabled(of("a b"), false); });
     row("Toggle 2 items", [](auto &s, auto of) {

@@ -18,6 +18,8 @@ private Q_SLOTS:
     void shouldHaveAHistoryOfItsOwnInAGroup();
     void shouldLeaveNoStepOfAGroupThatEndsWhereItBegan();
     void shouldLeaveNoStepOfAnEmptyGroupOfOperations();
+    void shouldMakeOneStepOfALongMove();
+    void shouldForgetAnOpenGroupWithItsScene();
 
 private:
     const QUndoStack &stack() { return *service().history().stack(); }
@@ -138,6 +140,32 @@ void tst_History_groups::shouldLeaveNoStepOfAnEmptyGroupOfOperations()
     {
         const StepGroup group(&service(), "Nothing");
         service().setName(ids("a"), "a");
+    }
+    QCOMPARE(stack().count(), 0);
+}
+
+void tst_History_groups::shouldMakeOneStepOfALongMove()
+{
+    open("a b");
+    {
+        const StepGroup group(&service(), Operation::MoveInView, ids("a b"));
+        for (int i = 1; i <= 50; ++i)
+            service().setOffsets({{id("a"), QPointF(i, 0)}, {id("b"), QPointF(0, i)}});
+    }
+    QCOMPARE(names(), QStringList("Move 2 overlays in the view"));
+    service().undo();
+    QCOMPARE(service().getOffset(id("b")), QPointF());
+    service().redo();
+    QCOMPARE(service().getOffset(id("a")), QPointF(50, 0));
+}
+
+void tst_History_groups::shouldForgetAnOpenGroupWithItsScene()
+{
+    open("a");
+    {
+        const StepGroup group(&service(), "Gesture");
+        service().setSize(ids("a"), 9);
+        service().setScene(scenetext::build("b"));
     }
     QCOMPARE(stack().count(), 0);
 }

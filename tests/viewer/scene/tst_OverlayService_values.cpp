@@ -96,6 +96,7 @@ private Q_SLOTS:
     void shouldSendNothingWithoutChange();
     void shouldAnnounceOnlyWhatChanged();
     void shouldNameGroupsToo();
+    void shouldGiveEachOverlayItsOffsetInOneAnnouncement();
     void shouldReadAnImageAnewWhenItsPathIsWrittenAgain();
     void shouldMakeImagePathsAbsolute_data();
     void shouldMakeImagePathsAbsolute();
@@ -162,6 +163,22 @@ void tst_OverlayService_values::shouldNameGroupsToo()
     QCOMPARE(signalLines().size(), 1);
     service().setName(ids("a s"), "a");
     QCOMPARE(signalLines(), QStringList("nameChanged a"));
+}
+
+void tst_OverlayService_values::shouldGiveEachOverlayItsOffsetInOneAnnouncement()
+{
+    open("a g(b c) d");
+    service().setOffset(ids("c"), {3, 4});
+    signalLines();
+    service().setOffsets({{id("d"), {7, -8}},
+                          {id("a"), {1.25, 2}},
+                          {id("c"), {3, 4}},
+                          {id("g"), {5, 5}},
+                          {9999, {6, 6}}});
+    QCOMPARE(signalLines(), QStringList("offsetChanged a d"));
+    QCOMPARE(service().getOffset(id("a")), QPointF(1.25, 2));
+    QCOMPARE(service().getOffset(id("d")), QPointF(7, -8));
+    QCOMPARE(service().getOffset(id("g")), QPointF());
 }
 
 void tst_OverlayService_values::shouldReadAnImageAnewWhenItsPathIsWrittenAgain()
