@@ -19,7 +19,8 @@ class SliderHandle;
 /// Dragging moves in line steps, typing is sent when it is committed. The wheel changes the value
 /// only while handle or field has the focus; Tab goes to the field alone. While the slider is marked
 /// "multiselect" its value is not that of all nodes: no handle is drawn, a press anywhere sets the
-/// value of its place, and an edit is sent even when it gives the value last shown.
+/// value of its place, and an edit is sent even when it gives the value last shown. Its accessible name, or
+/// that of the label whose buddy it is, names handle and field too once it is shown.
 class KXHOST_EXPORT QKXSlider : public QWidget
 {
     Q_OBJECT
@@ -62,7 +63,11 @@ Q_SIGNALS:
     /// The handle was let go; value() is what the drag has led to.
     void sliderReleased();
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
+    void nameParts();
     void takeAction(int action);
     void edit(double value);
     void take(double value);

@@ -28,9 +28,9 @@ QKXSearchBox::QKXSearchBox(QWidget *parent) : QLineEdit(parent)
 {
     setPlaceholderText(tr("Search"));
     setAccessibleName(tr("Search"));
-    addAction(kxIconManager::getIcon("Search", ""), LeadingPosition);
+    addAction(kxIconManager::getIcon("Search", ""), LeadingPosition)->setText(tr("Search"));
     QAction *clearing = addAction(kxIconManager::getIcon("Clear", ""), TrailingPosition);
-    clearing->setToolTip(tr("Clear the search"));
+    clearing->setText(tr("Clear the search"));
     clearing->setVisible(false);
     connect(clearing, &QAction::triggered, this, &QLineEdit::clear);
     connect(this, &QLineEdit::textChanged, clearing,

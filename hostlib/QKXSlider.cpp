@@ -8,6 +8,7 @@
 #include "hostlib/multiselect.h"
 #include "hostlib/numberText.h"
 
+#include <QAccessible>
 #include <QHBoxLayout>
 #include <QSignalBlocker>
 
@@ -86,6 +87,23 @@ void QKXSlider::setSliderEnabled(bool enabled)
 void QKXSlider::propagateMultiselectProperty()
 {
     hostlib::handOnMultiselect(this, {m_handle, m_field});
+}
+
+void QKXSlider::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    nameParts();
+}
+
+/// Assistive tools meet the parts and not the whole.
+void QKXSlider::nameParts()
+{
+    const QAccessibleInterface *whole = QAccessible::queryAccessibleInterface(this);
+    const QString name = whole ? whole->text(QAccessible::Name) : QString();
+    if (name.isEmpty())
+        return;
+    m_field->setAccessibleName(name);
+    m_handle->setAccessibleName(tr("%1, slider").arg(name));
 }
 
 void QKXSlider::takeAction(int action)

@@ -5,12 +5,16 @@
 
 #include <QEvent>
 #include <QStyle>
+#include <QToolButton>
 
 QKXToolBar::QKXToolBar(const QString &title, QWidget *parent) : QToolBar(title, parent)
 {
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     setContentsMargins(0, 0, 0, 0);
     takeIconSizeFromStyle();
+    // The button for what has no room, which the base class leaves without a name.
+    if (auto *more = findChild<QToolButton *>(QStringLiteral("qt_toolbar_ext_button")))
+        more->setAccessibleName(tr("More actions"));
 }
 
 QKXToolBar::~QKXToolBar() = default;

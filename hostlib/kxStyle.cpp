@@ -10,6 +10,7 @@
 #include <QAbstractItemView>
 #include <QAbstractScrollArea>
 #include <QEvent>
+#include <QLabel>
 #include <QStyleOption>
 
 namespace {
@@ -44,6 +45,25 @@ void describe(QWidget *widget)
     widget->setAccessibleDescription(kxStyle::mixedText());
 }
 
+// The toolkit's file dialog has two list boxes that only look as if their labels named them.
+void nameByLabel(QWidget *widget)
+{
+    const struct
+    {
+        QLatin1String control;
+        QLatin1String label;
+    } pairs[] = {
+        {QLatin1String("lookInCombo"), QLatin1String("lookInLabel")},
+        {QLatin1String("fileTypeCombo"), QLatin1String("fileTypeLabel")},
+    };
+    for (const auto &pair : pairs) {
+        if (widget->objectName() != pair.control || !widget->parentWidget())
+            continue;
+        if (auto *label = widget->parentWidget()->findChild<QLabel *>(pair.label))
+            label->setBuddy(widget);
+    }
+}
+
 } // namespace
 
 kxStyle::kxStyle() : QProxyStyle(QStringLiteral("Fusion"))
@@ -76,6 +96,7 @@ void kxStyle::polish(QPalette &palette)
 void kxStyle::polish(QWidget *widget)
 {
     QProxyStyle::polish(widget);
+    nameByLabel(widget);
     describe(widget);
     const QList<QWidget *> mates = kxStyleControls::groupMates(widget);
     for (QWidget *mate : mates) {

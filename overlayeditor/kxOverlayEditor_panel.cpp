@@ -12,6 +12,7 @@
 
 #include <QButtonGroup>
 #include <QIcon>
+#include <QLabel>
 #include <QPointF>
 
 #include <initializer_list>
@@ -31,11 +32,36 @@ QWidget *focusPart(QWidget *control)
     return control->focusProxy() ? focusPart(control->focusProxy()) : control;
 }
 
+/// The labels name the controls beside them to assistive tools too.
+void nameControls(const kxOverlayEditorGUIW &form)
+{
+    const struct
+    {
+        QLabel *label;
+        QWidget *control;
+    } rows[] = {
+        {form._name_label, form._overlay_name},
+        {form._text_label, form._text_edit},
+        {form._font_label, form._font_combo_box},
+        {form._font_color_label, form._color_slider},
+        {form._background_label, form._background_slider},
+        {form._transparency_label, form._transparency_slider},
+        {form._image_label, form._image_edit},
+        {form._size_label, form._size_slider},
+        {form._position_label, form._position_combo_box},
+    };
+    for (const auto &row : rows)
+        row.label->setBuddy(row.control);
+    form._offset_x_spin_box->setAccessibleName(kxOverlayEditor::tr("Horizontal offset"));
+    form._offset_y_spin_box->setAccessibleName(kxOverlayEditor::tr("Vertical offset"));
+}
+
 } // namespace
 
 void kxOverlayEditor::createPropertiesView()
 {
     orderFocus();
+    nameControls(*m_window);
 
     kxConnect(m_window->_overlay_name, SIGNAL(editingFinished()), this, SLOT(nameChanged()));
 

@@ -41,12 +41,23 @@
         <source>Value</source>
         <translation>Wert</translation>
     </message>
+    <message>
+        <source>%1, slider</source>
+        <translation>%1, Schieberegler</translation>
+    </message>
 </context>
 <context>
     <name>QKXTextureControls</name>
     <message>
         <source>Use texture</source>
         <translation>Textur verwenden</translation>
+    </message>
+</context>
+<context>
+    <name>QKXToolBar</name>
+    <message>
+        <source>More actions</source>
+        <translation>Weitere Aktionen</translation>
     </message>
 </context>
 <context>

@@ -41,12 +41,23 @@
         <source>Value</source>
         <translation>值</translation>
     </message>
+    <message>
+        <source>%1, slider</source>
+        <translation>%1，滑块</translation>
+    </message>
 </context>
 <context>
     <name>QKXTextureControls</name>
     <message>
         <source>Use texture</source>
         <translation>使用纹理</translation>
+    </message>
+</context>
+<context>
+    <name>QKXToolBar</name>
+    <message>
+        <source>More actions</source>
+        <translation>更多操作</translation>
     </message>
 </context>
 <context>

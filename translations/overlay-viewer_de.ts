@@ -9,6 +9,13 @@
     </message>
 </context>
 <context>
+    <name>ModuleCategory</name>
+    <message>
+        <source>Scene</source>
+        <translation>Szene</translation>
+    </message>
+</context>
+<context>
     <name>Step</name>
     <message>
         <source>Create &quot;%1&quot;</source>

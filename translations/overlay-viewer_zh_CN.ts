@@ -9,6 +9,13 @@
     </message>
 </context>
 <context>
+    <name>ModuleCategory</name>
+    <message>
+        <source>Scene</source>
+        <translation>场景</translation>
+    </message>
+</context>
+<context>
     <name>Step</name>
     <message>
         <source>Create &quot;%1&quot;</source>

@@ -171,6 +171,14 @@
         <source>Bottom Right</source>
         <translation>Unten rechts</translation>
     </message>
+    <message>
+        <source>Horizontal offset</source>
+        <translation>Horizontaler Versatz</translation>
+    </message>
+    <message>
+        <source>Vertical offset</source>
+        <translation>Vertikaler Versatz</translation>
+    </message>
 </context>
 <context>
     <name>kxOverlayEditorGUI</name>

@@ -171,6 +171,14 @@
         <source>Bottom Right</source>
         <translation>右下</translation>
     </message>
+    <message>
+        <source>Horizontal offset</source>
+        <translation>水平偏移</translation>
+    </message>
+    <message>
+        <source>Vertical offset</source>
+        <translation>垂直偏移</translation>
+    </message>
 </context>
 <context>
     <name>kxOverlayEditorGUI</name>

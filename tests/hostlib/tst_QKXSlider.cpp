@@ -6,6 +6,7 @@
 #include "tests/hostlib/widgetInput.h"
 #include "tests/support/KxTest.h"
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QSlider>
@@ -50,6 +51,7 @@ private Q_SLOTS:
     void shouldBeSwitchedOffAsAWhole();
     void shouldAnnounceAValueThatIsSet();
     void shouldKeepWhatIsBeingTypedWhenAnEqualValueIsSet();
+    void shouldGiveItsPartsTheNameOfItsLabel();
     void shouldHandTheMarkingToItsPartsOnChangeOnly();
     void shouldSendAnEditOfAMixedValueEvenWhenItIsTheOneShown();
     void shouldSendThePlaceOfAPressWhileMixed();
@@ -356,6 +358,17 @@ void tst_QKXSlider::shouldKeepWhatIsBeingTypedWhenAnEqualValueIsSet()
     typeAtFocus(QStringLiteral("5"));
     QTest::keyClick(m_field, Qt::Key_Return);
     QCOMPARE(m_sent, QVector<double>({12.5}));
+}
+
+void tst_QKXSlider::shouldGiveItsPartsTheNameOfItsLabel()
+{
+    QCOMPARE(m_field->accessibleName(), QString("Value"));
+    m_window->hide();
+    auto *label = new QLabel("Size", m_window.get());
+    label->setBuddy(m_slider);
+    m_window->show();
+    QCOMPARE(m_field->accessibleName(), QString("Size"));
+    QCOMPARE(m_handle->accessibleName(), QString("Size, slider"));
 }
 
 void tst_QKXSlider::shouldHandTheMarkingToItsPartsOnChangeOnly()

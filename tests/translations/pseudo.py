@@ -31,13 +31,12 @@ def pseudo(text):
     end = re.search(r"[\s…:]*$", changed).start()
     start = len(changed) - len(changed.lstrip())
     longer = "~" * max(1, round(len(text.strip()) * 0.3) - 2)
-    # The brackets go inside what a file dialog reads: "Name (*.a *.b);;Name (*)".
-    filters = re.fullmatch(r"(.*?)(\s*\(.*\))", changed, re.DOTALL) if "(*" in text else None
     if ";;" in text:
         return ";;".join(pseudo(part) for part in text.split(";;"))
-    if filters or "(%1)" in text:
-        match = filters or re.fullmatch(r"(.*?)(\s*\(%1\).*)", changed, re.DOTALL)
-        return f"[{match[1]}{longer}]{match[2]}"
+    # The brackets go inside what a file dialog reads: "Name (*.a *.b)".
+    name = re.fullmatch(r"(.*?)(\s*\((?:\*.*|%1)\))", changed)
+    if name:
+        return f"[{name[1]}{longer}]{name[2]}"
     return f"{changed[:start]}[{changed[start:end]}{longer}]{changed[end:]}"
 
 

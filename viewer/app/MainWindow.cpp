@@ -202,6 +202,7 @@ void MainWindow::createHelpMenu()
     menu->addSeparator();
     QAction *about = menu->addAction(tr("&About %1").arg(QApplication::applicationDisplayName()),
                                      this, &MainWindow::showAbout);
+    about->setObjectName(QStringLiteral("about"));
     about->setMenuRole(QAction::AboutRole);
 }
 

@@ -30,6 +30,17 @@ QString categoryName(const QString &category)
     return QStringLiteral("category/") + category;
 }
 
+/// What the user reads for a category; one that the viewer does not know stays as the module wrote it.
+QString categoryTitle(const QString &category)
+{
+    constexpr const char *known[] = {QT_TRANSLATE_NOOP("ModuleCategory", "Scene")};
+    for (const char *name : known) {
+        if (category == QLatin1String(name))
+            return QCoreApplication::translate("ModuleCategory", name);
+    }
+    return category;
+}
+
 } // namespace
 
 ModulePanels::ModulePanels(QMainWindow *window, QMenu *menu)
@@ -83,8 +94,7 @@ QMenu *ModulePanels::categoryMenu(const QString &category)
     const QString name = categoryName(category);
     if (auto *known = m_menu->findChild<QMenu *>(name, Qt::FindDirectChildrenOnly))
         return known;
-    QMenu *menu = m_menu->addMenu(
-        QCoreApplication::translate("ModuleCategory", category.toUtf8().constData()));
+    QMenu *menu = m_menu->addMenu(categoryTitle(category));
     menu->setObjectName(name);
     return menu;
 }
