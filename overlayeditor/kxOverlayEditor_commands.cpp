@@ -43,8 +43,11 @@ void kxOverlayEditor::createGroupFromSelection()
 void kxOverlayEditor::renameOverlay()
 {
     const QModelIndex index = getFirstSelected();
-    if (index.isValid())
-        m_treeView->edit(index);
+    if (!index.isValid())
+        return;
+    // In a closed group, or out of sight, the name would be edited unseen.
+    m_treeView->scrollTo(index);
+    m_treeView->edit(index);
 }
 
 void kxOverlayEditor::toggle()

@@ -26,6 +26,17 @@ bool kxOverlayTreeView::event(QEvent *event)
     return QTreeView::event(event);
 }
 
+void kxOverlayTreeView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                                    const QVector<int> &roles)
+{
+    const bool isName = roles.isEmpty() || roles.contains(Qt::DisplayRole);
+    // The toolkit writes the row's name over what was typed, whatever has changed.
+    if (!isName && isPersistentEditorOpen(topLeft))
+        update(topLeft);
+    else
+        QTreeView::dataChanged(topLeft, bottomRight, roles);
+}
+
 void kxOverlayTreeView::startDrag(Qt::DropActions supportedActions)
 {
     deselectHiddenRows();

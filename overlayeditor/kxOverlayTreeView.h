@@ -13,11 +13,13 @@ class kxOverlayQtModel;
 
 /// The tree view of the editor. Created by the editor, owned by its window; GUI thread only.
 ///
-/// It adds two things to the toolkit's view. After a drop the tree equals the service, the dropped
+/// It adds three things to the toolkit's view. After a drop the tree equals the service, the dropped
 /// nodes are selected and open as before, and the keyboard goes on from them. By itself a drop
 /// leaves closed copies that show what the rows showed when the drag began, and the view then
 /// removes every row that is selected by then, dragged or not. So rows that a filter hides are
 /// deselected when a drag begins, and once the drag is over the model settles what it touched.
+///
+/// A name that is being edited stays as it was typed until the service gives the row another.
 ///
 /// And a key that the editor has let pass is the view's alone: the editor passes it on as ignored,
 /// and what the view does not take back its parent handles once more. Tab would go two steps.
@@ -28,6 +30,10 @@ class kxOverlayTreeView : public QTreeView
 public:
     explicit kxOverlayTreeView(QWidget *parent = nullptr);
     ~kxOverlayTreeView() override;
+
+    /// A change that leaves the name alone leaves a name alone that is being edited.
+    void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                     const QVector<int> &roles = QVector<int>()) override;
 
 protected:
     bool event(QEvent *event) override;
