@@ -7,7 +7,8 @@
     host <- kit;  tests and bench see all.
 
 The viewer knows the module as a file that it loads, never as a header. Below viewer/, scene,
-render and edit do without windows: each may include those before it, and none what shows them.
+script, render and edit do without windows: each may include what it builds upon, and none what shows
+them.
 
 Usage: arrows.py ROOT
 """
@@ -27,6 +28,7 @@ ARROWS = {
     "overlayeditor": {"host", "overlayeditor"},
     "viewer": {"host", "hostlib", "viewer"},
     "viewer/scene": {"host", "hostlib", "viewer/scene"},
+    "viewer/script": {"host", "hostlib", "viewer/scene", "viewer/script"},
     "viewer/render": {"host", "hostlib", "viewer/scene", "viewer/render"},
     "viewer/edit": {"host", "hostlib", "viewer/scene", "viewer/render", "viewer/edit"},
     "examples": {"host", "examples"},
