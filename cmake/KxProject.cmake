@@ -7,6 +7,7 @@ option(KX_BUILD_TESTS "Build the tests" ON)
 option(KX_BUILD_BENCH "Build the benchmarks" ON)
 # Shared, with everything visible, they can be exchanged below tests that are linked already.
 option(KX_SHARED_PARTS "Make the parts that mutants are made of shared libraries" OFF)
+option(KX_FUZZ "Build the fuzzers; needs clang" OFF)
 
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)

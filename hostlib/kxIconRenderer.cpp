@@ -45,15 +45,19 @@ struct Memory
     bool endsWithApplication = false;
 };
 
+Q_GLOBAL_STATIC(Memory, s_memory)
+
 Memory &memory()
 {
-    static Memory all;
-    return all;
+    return *s_memory;
 }
 
-// Pixmaps must not outlive the application that they were made in.
+// Pixmaps must not outlive the application that they were made in. An application object that is
+// static itself may end after them.
 void forgetPixmaps()
 {
+    if (s_memory.isDestroyed())
+        return;
     memory().pixmaps.clear();
     memory().endsWithApplication = false;
 }
