@@ -932,6 +932,10 @@ Ein Lauf ohne Fenster gibt zurück:
         <source>Untitled</source>
         <translation>Unbenannt</translation>
     </message>
+    <message>
+        <source>There are more image files than can be watched. When one of the others changes, it is shown within a few seconds.</source>
+        <translation>Es gibt mehr Bilddateien, als überwacht werden können. Ändert sich eine der übrigen, wird das innerhalb weniger Sekunden gezeigt.</translation>
+    </message>
 </context>
 <context>
     <name>viewer::Viewport</name>

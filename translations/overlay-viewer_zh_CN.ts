@@ -929,6 +929,10 @@ A headless run returns:
         <source>Untitled</source>
         <translation>未命名</translation>
     </message>
+    <message>
+        <source>There are more image files than can be watched. When one of the others changes, it is shown within a few seconds.</source>
+        <translation>图像文件多于可监视的数量。其余文件发生更改时，会在几秒内显示。</translation>
+    </message>
 </context>
 <context>
     <name>viewer::Viewport</name>

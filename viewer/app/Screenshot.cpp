@@ -4,6 +4,7 @@
 #include "viewer/app/Screenshot.h"
 
 #include "viewer/app/MainWindow.h"
+#include "viewer/render/ImageCache.h"
 
 #include <QDir>
 #include <QImageWriter>
@@ -11,9 +12,11 @@
 
 namespace viewer {
 
-Screenshot::Screenshot(MainWindow *window, const QString &file, QObject *parent)
+Screenshot::Screenshot(MainWindow *window, const ImageCache &images, const QString &file,
+                       QObject *parent)
     : QObject(parent)
     , m_window(window)
+    , m_images(images)
     , m_file(file)
 {
     connect(window->viewArea(), &ViewArea::framePainted, this, [this] {
@@ -27,8 +30,13 @@ Screenshot::Screenshot(MainWindow *window, const QString &file, QObject *parent)
 
 void Screenshot::take()
 {
+    const QImage picture = m_window->grab().toImage(); // which asks for the images too
+    if (m_images.isLoading()) {
+        connect(&m_images, &ImageCache::finished, this, &Screenshot::take, Qt::UniqueConnection);
+        return;
+    }
     QImageWriter writer(m_file);
-    if (writer.write(m_window->grab().toImage())) {
+    if (writer.write(picture)) {
         emit finished(QString());
         return;
     }

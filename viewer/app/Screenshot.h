@@ -7,16 +7,18 @@
 
 namespace viewer {
 
+class ImageCache;
 class MainWindow;
 
-/// Waits until the window has shown a frame, saves a picture of it and tells so, once. Made by the
-/// session when all is loaded.
+/// Waits until the window has shown a frame and the images in it have been read, saves a picture of
+/// it and tells so, once. Made by the session when all is loaded.
 class Screenshot : public QObject
 {
     Q_OBJECT
 
 public:
-    Screenshot(MainWindow *window, const QString &file, QObject *parent = nullptr);
+    Screenshot(MainWindow *window, const ImageCache &images, const QString &file,
+               QObject *parent = nullptr);
 
 Q_SIGNALS:
     /// Done; `fault` says what went wrong, naming the file, and is empty when the picture is there.
@@ -26,6 +28,7 @@ private:
     void take();
 
     MainWindow *m_window;
+    const ImageCache &m_images;
     const QString m_file;
     bool m_isDue = false;
 };

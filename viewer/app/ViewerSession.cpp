@@ -142,13 +142,17 @@ void ViewerSession::offerLostWork()
 
 void ViewerSession::showOverlays()
 {
-    // First, so that the picture is drawn with the new content of the file.
-    connect(overlays(), &OverlayService::imageFileSet, this,
-            [this](const QString &path) { m_images.forget(path); });
+    connect(overlays(), &OverlayService::imageFileSet, &m_images, &ImageCache::reload);
     const auto draw = [this](QPainter *painter, const QSize &size, double dpi) {
         m_painter.paint(*painter, size, dpi);
     };
-    m_window->viewArea()->setOverlayLayer(new OverlayLayer(overlays(), draw));
+    auto *layer = new OverlayLayer(overlays(), draw);
+    m_window->viewArea()->setOverlayLayer(layer);
+    connect(&m_images, &ImageCache::pictureChanged, layer, qOverload<>(&QWidget::update));
+    connect(&m_images, &ImageCache::watchLimited, this, [this] {
+        report(Severity::Info, tr("There are more image files than can be watched. When one of the "
+                                  "others changes, it is shown within a few seconds."));
+    });
 }
 
 void ViewerSession::loadModules()
@@ -163,7 +167,7 @@ void ViewerSession::loadModules()
 
 void ViewerSession::takePictureAndQuit()
 {
-    auto *picture = new Screenshot(m_window.get(), m_line.screenshot, this);
+    auto *picture = new Screenshot(m_window.get(), m_images, m_line.screenshot, this);
     connect(picture, &Screenshot::finished, this, [this](const QString &fault) {
         if (!fault.isEmpty())
             report(Severity::Error, fault);

@@ -45,6 +45,7 @@ public:
 
     MainWindow *window() const { return m_window.get(); }
     OverlayService *overlays() { return m_services.overlays(); }
+    const ImageCache &images() const { return m_images; }
 
 private:
     void showOverlays();
@@ -64,7 +65,7 @@ private:
     SceneDocument m_document{overlays(), m_questions.get(), m_settings};
     QThreadPool m_journalWriter;
     std::unique_ptr<Journal> m_journal; // none without settings
-    ImageCache m_images;
+    ImageCache m_images{ImageCache::Reading::InBackground};
     OverlayPainter m_painter{overlays()->scene(), m_images};
 };
 

@@ -3,7 +3,8 @@
 
 #include "viewer/render/OverlayPainter.h"
 
-#include <QFileInfo>
+#include "viewer/render/ImageMarks.h"
+
 #include <QPainter>
 
 #include <algorithm>
@@ -38,26 +39,6 @@ bool isSeen(const QRectF &box, const ViewGeometry &view)
 bool isVisible(const QColor &color)
 {
     return color.isValid() && color.alpha() > 0;
-}
-
-/// Stands for an image that cannot be read: a dashed frame with the file's name.
-void paintPlaceholder(QPainter &painter, const QString &path, const QRectF &box)
-{
-    const double unit = std::min(box.height(), box.width());
-    const double line = std::max(1.0, unit / 60.0);
-    const QRectF frame = box.adjusted(line / 2, line / 2, -line / 2, -line / 2);
-    painter.save();
-    painter.setBrush(QColor(32, 34, 38, 200));
-    painter.setPen(QPen(QColor(240, 150, 60), line, Qt::DashLine));
-    painter.drawRect(frame);
-    painter.restore();
-
-    const TextBlock name(QFileInfo(path).fileName(), QStringLiteral("DejaVu Sans"));
-    const QSizeF size = name.size();
-    const double lineHeight = std::min(unit / 5.0, 0.9 * box.width() / size.width());
-    QRectF place(QPointF(), size * lineHeight);
-    place.moveCenter(box.center());
-    name.draw(&painter, place, QColor(240, 150, 60), 0.5);
 }
 
 } // namespace
@@ -97,6 +78,7 @@ void OverlayPainter::paint(QPainter &painter, const QSize &size, double dpi)
             paintImage(painter, node.overlay, view);
     });
     painter.restore();
+    m_images.endDrawing();
     forgetRemovedTexts();
 }
 
@@ -170,12 +152,15 @@ void OverlayPainter::paintImage(QPainter &painter, const Overlay &overlay, const
     if (!isSeen(box, view))
         return;
     const QSize pixels = box.size().toSize().expandedTo(QSize(1, 1));
+    const ImageCache::State state = m_images.state(path);
     if (image.isNull())
-        paintPlaceholder(painter, path, box);
+        paintPlaceholder(&painter, path, box, state);
     else if (pixels.height() > image.height())
         painter.drawImage(box, image);
     else // filtered as a whole and put on whole pixels, so that fine lines stay sharp
         painter.drawImage(box.topLeft().toPoint(), m_images.scaledImage(path, pixels));
+    if (state == ImageCache::State::Outdated)
+        paintOutdatedMark(&painter, box, view.dpi);
 }
 
 void OverlayPainter::forgetRemovedTexts()

@@ -29,8 +29,9 @@ struct DrawnOverlay
 /// changed, however they changed, and nothing else. The same scene, size and dots per inch give the
 /// same pixels, whatever device they are drawn on.
 ///
-/// An image that cannot be read is drawn as a frame with the file's name; an image overlay without a
-/// path, a text without letters and a size that is none are not drawn.
+/// An image that cannot be read is drawn as a dashed frame with the file's name, one that is still
+/// being read as a quiet field with it, and one whose file has gone since it was read has a mark. An
+/// image overlay without a path, a text without letters and a size that is none are not drawn.
 class OverlayPainter
 {
     Q_DECLARE_TR_FUNCTIONS(viewer::OverlayPainter)

@@ -16,17 +16,25 @@ namespace {
 
 const QColor Paper(10, 60, 10);
 
+/// The rectangle around all pixels that differ.
+QRect differenceOf(const QImage &one, const QImage &other)
+{
+    QRect difference;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            if (one.pixel(x, y) != other.pixel(x, y))
+                difference |= QRect(x, y, 1, 1);
+        }
+    }
+    return difference;
+}
+
 /// The rectangle around all pixels that differ from the paper.
 QRect inkOf(const QImage &image)
 {
-    QRect ink;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (image.pixelColor(x, y) != Paper)
-                ink |= QRect(x, y, 1, 1);
-        }
-    }
-    return ink;
+    QImage paper(image.size(), image.format());
+    paper.fill(Paper);
+    return differenceOf(image, paper);
 }
 
 bool isNear(const QRectF &a, const QRectF &b, double tolerance)
@@ -58,6 +66,9 @@ private Q_SLOTS:
     void shouldScaleAPictureToItsHeight_data();
     void shouldScaleAPictureToItsHeight();
     void shouldFrameAMissingImage();
+    void shouldDrawAQuietFieldWhileAnImageIsRead();
+    void shouldMarkAPictureWhoseFileVanished_data();
+    void shouldMarkAPictureWhoseFileVanished();
     void shouldDrawNothingWhereThereIsNothing();
     void shouldLayOutOnlyWhatChanged();
     void shouldForgetTheTextsOfRemovedNodes();
@@ -70,6 +81,7 @@ private Q_SLOTS:
     void shouldScaleWithTheDotsPerInch();
 
 private:
+    void useImages(ImageCache::Reading reading);
     QImage drawn(const QSize &size = {320, 180}, double dpi = 96.0);
     void setUpText(const QString &name, const QString &text, float points);
     void setUpPicture(const QString &name, const QColor &color, const QSize &size);
@@ -83,17 +95,22 @@ void tst_OverlayPainter::init()
 {
     ServiceTest::init();
     m_folder = std::make_unique<QTemporaryDir>();
-    m_images = std::make_unique<ImageCache>();
     open("a b g(c) s{d e-}");
-    m_painter = std::make_unique<OverlayPainter>(scene(), *m_images);
+    useImages(ImageCache::Reading::AtOnce);
     connect(&service(), &viewer::OverlayService::imageFileSet, this,
-            [this](const QString &path) { m_images->forget(path); });
+            [this](const QString &path) { m_images->reload(path); });
 }
 
 void tst_OverlayPainter::cleanup()
 {
     m_painter.reset();
     ServiceTest::cleanup();
+}
+
+void tst_OverlayPainter::useImages(ImageCache::Reading reading)
+{
+    m_images = std::make_unique<ImageCache>(reading);
+    m_painter = std::make_unique<OverlayPainter>(scene(), *m_images);
 }
 
 QImage tst_OverlayPainter::drawn(const QSize &size, double dpi)
@@ -310,6 +327,56 @@ void tst_OverlayPainter::shouldFrameAMissingImage()
     QCOMPARE(other, image);
     service().setImage(ids("a"), m_folder->filePath("other name.png"));
     QVERIFY(drawn() != image);
+}
+
+void tst_OverlayPainter::shouldDrawAQuietFieldWhileAnImageIsRead()
+{
+    setUpPicture("a", Qt::red, {16, 16});
+    service().setSize(ids("a"), 90);
+    useImages(ImageCache::Reading::InBackground);
+    const QRectF box = m_painter->boxOf(id("a"), {320, 180}, 96);
+    QCOMPARE(box.height(), 120.0);
+    const QImage reading = drawn();
+    QVERIFY(isNear(QRectF(inkOf(reading)), box, 1.0));
+    QTRY_VERIFY(!m_images->isLoading());
+    QCOMPARE(drawn().pixelColor(160, 90), QColor(Qt::red));
+    // It does not look like something wrong.
+    QVERIFY(QFile::remove(m_folder->filePath("a.png")));
+    useImages(ImageCache::Reading::AtOnce);
+    QVERIFY(drawn() != reading);
+}
+
+void tst_OverlayPainter::shouldMarkAPictureWhoseFileVanished_data()
+{
+    QTest::addColumn<float>("points");
+    QTest::addColumn<double>("dpi");
+    QTest::addColumn<int>("side");
+    QTest::newRow("large") << 90.0F << 96.0 << 18;
+    QTest::newRow("larger") << 120.0F << 96.0 << 18;
+    QTest::newRow("on a dense display") << 45.0F << 192.0 << 36;
+    QTest::newRow("tiny") << 9.0F << 96.0 << 6;
+}
+
+void tst_OverlayPainter::shouldMarkAPictureWhoseFileVanished()
+{
+    QFETCH(float, points);
+    QFETCH(double, dpi);
+    QFETCH(int, side);
+    setUpPicture("a", Qt::red, {16, 16});
+    service().setSize(ids("a"), points);
+    useImages(ImageCache::Reading::InBackground);
+    drawn({320, 180}, dpi);
+    QTRY_VERIFY(!m_images->isLoading());
+    const QImage good = drawn({320, 180}, dpi);
+    QVERIFY(QFile::remove(m_folder->filePath("a.png")));
+    m_images->reload(m_folder->filePath("a.png"));
+    QTRY_VERIFY(!m_images->isLoading());
+    const QImage marked = drawn({320, 180}, dpi);
+    const QRect mark = differenceOf(good, marked);
+    const QRect box = m_painter->boxOf(id("a"), {320, 180}, dpi).toRect();
+    QVERIFY(box.contains(mark));
+    QVERIFY(qAbs(mark.width() - side) <= 3 && qAbs(mark.height() - side) <= 3);
+    QVERIFY(mark.center().x() > box.center().x() && mark.center().y() > box.center().y());
 }
 
 void tst_OverlayPainter::shouldDrawNothingWhereThereIsNothing()
