@@ -18,6 +18,8 @@ class tst_History : public ServiceTest
 private Q_SLOTS:
     void shouldAnnounceWhatUndoAndRedoBringAbout_data();
     void shouldAnnounceWhatUndoAndRedoBringAbout();
+    void shouldRecordAStepBeforeItIsAnnounced_data();
+    void shouldRecordAStepBeforeItIsAnnounced();
     void shouldBringTheSameNodesBack();
     void shouldNotGiveTheIdOfAnUndoneNodeToAnother();
     void shouldLeaveNoStepWhereNothingChanges();
@@ -136,6 +138,38 @@ void tst_History::shouldAnnounceWhatUndoAndRedoBringAbout()
     QCOMPARE(signalLines(), redone);
     service().undo();
     QCOMPARE(dump(), before);
+}
+
+void tst_History::shouldRecordAStepBeforeItIsAnnounced_data()
+{
+    QTest::addColumn<Operate>("operate");
+    const auto row = [](const char *name, const Operate &operate) {
+        QTest::newRow(name) << operate;
+    };
+    row("create", [](auto &s, auto of) { s.createOverlay(of("g").first()); });
+    row("duplicate", [](auto &s, auto of) { s.duplicateNodes(of("g")); });
+    row("delete", [](auto &s, auto of) { s.deleteNodes(of("g")); });
+    row("move", [](auto &s, auto of) { s.moveNodes(of("b"), of("g").first(), 0); });
+    row("rename", [](auto &s, auto of) { s.setName(of("b"), "z"); });
+    row("disable", [](auto &s, auto of) { s.setEnabled(of("b"), false); });
+}
+
+/// A slot that changes the scene in turn leaves a later step.
+void tst_History::shouldRecordAStepBeforeItIsAnnounced()
+{
+    QFETCH(Operate, operate);
+    open("g(a) b");
+    QVector<int> counts;
+    const auto note = [this, &counts] { counts.append(stack().count()); };
+    connect(&service(), &kxOverlayService::nodesAdded, this, note);
+    connect(&service(), &kxOverlayService::nodesCreated, this, note);
+    connect(&service(), &kxOverlayService::nodesRemoved, this, note);
+    connect(&service(), &kxOverlayService::nodesMoved, this, note);
+    connect(&service(), &kxOverlayService::nameChanged, this, note);
+    connect(&service(), &kxOverlayService::enabledStateChanged, this, note);
+    operate(service(), [this](const char *names) { return ids(names); });
+    QVERIFY(!counts.isEmpty());
+    QCOMPARE(counts, QVector<int>(counts.size(), 1));
 }
 
 void tst_History::shouldBringTheSameNodesBack()
