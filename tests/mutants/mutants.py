@@ -44,17 +44,18 @@ def run(command, cwd, **options):
 
 
 def copy_tree(root, copy):
-    """Brings the copy up to date with the tracked files; unchanged ones keep their times."""
+    """Brings the copy up to date with the tracked files, all of which it returns; equal ones keep their
+    times."""
     listed = run(["git", "ls-files", "-z"], root).stdout.split("\0")
-    for name in filter(None, listed):
+    names = [name for name in listed if name and (root / name).is_file()]
+    for name in names:
         source, target = root / name, copy / name
-        if not source.is_file():
-            continue
         if target.is_file() and target.read_bytes() == source.read_bytes():
             continue
         target.parent.mkdir(parents=True, exist_ok=True)
         shutil.copy2(source, target)
         os.utime(target)
+    return names
 
 
 class Workshop:
@@ -141,13 +142,8 @@ class Test:
         return passed
 
 
-def candidates(root, folder, part):
-    found = []
-    for path in sorted((root / folder).rglob("*.cpp")):
-        name = path.relative_to(root).as_posix()
-        if part in name:
-            found += [(name, mutant) for mutant in mutations.of(path.read_text())]
-    return found
+def candidates(copy, names):
+    return [(name, mutant) for name in names for mutant in mutations.of((copy / name).read_text())]
 
 
 def equivalents():
@@ -189,10 +185,11 @@ def main():
     options = parser.parse_args()
     root = options.root.resolve()
     workshop = Workshop(root / "build" / options.copy, options.folder)
-    copy_tree(root, workshop.copy)
+    names = [name for name in copy_tree(root, workshop.copy)
+             if name.startswith(options.folder + "/") and name.endswith(".cpp") and options.file in name]
     workshop.prepare()
 
-    pool = candidates(root, options.folder, options.file)
+    pool = candidates(workshop.copy, names)
     random.Random(options.seed).shuffle(pool)
     print(f"mutants: {options.count} of {len(pool)} in {options.folder}, seed {options.seed}", flush=True)
     known = equivalents()
