@@ -43,7 +43,7 @@ function(kx_install_package)
     install(FILES examples/title_sheet.json DESTINATION "${KX_INSTALL_DATADIR}/examples")
     install(DIRECTORY examples/images DESTINATION "${KX_INSTALL_DATADIR}/examples")
     install(FILES README.md CHANGES.md LICENSE DESTINATION "${CMAKE_INSTALL_DOCDIR}")
-    install(FILES docs/HOST_GUIDE.md docs/HEADLESS.md docs/SCENE_FORMAT.md
+    install(FILES docs/HOST_GUIDE.md docs/CONFORMANCE.md docs/HEADLESS.md docs/SCENE_FORMAT.md
         DESTINATION "${CMAKE_INSTALL_DOCDIR}")
 endfunction()
 

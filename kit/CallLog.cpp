@@ -29,6 +29,20 @@ QStringList CallLog::linesOf(const QStringList &operations) const
     return wanted;
 }
 
+QStringList CallLog::commands() const
+{
+    QStringList wanted;
+    for (const QString &line : m_lines) {
+        const QString operation = line.section(QLatin1Char(' '), 0, 0);
+        const bool isQuestion = operation.startsWith(QLatin1String("get"))
+                                || operation.startsWith(QLatin1String("is"))
+                                || operation.contains(QLatin1Char('.'));
+        if (!isQuestion)
+            wanted.append(line);
+    }
+    return wanted;
+}
+
 int CallLog::total() const
 {
     return std::accumulate(m_counts.cbegin(), m_counts.cend(), 0);

@@ -23,6 +23,9 @@ public:
     /// The lines of the named operations only, in order.
     QStringList linesOf(const QStringList &operations) const;
 
+    /// The lines of commands and writes alone, in order: those that ask nothing.
+    QStringList commands() const;
+
     /// How often an operation was called; counted while lines are switched off too.
     int count(const QString &operation) const { return m_counts.value(operation); }
 

@@ -70,15 +70,8 @@ QStringList EditorTest::commandsOf(const std::function<void()> &action)
 {
     log().clear();
     action();
-    QStringList commands;
-    const QStringList lines = log().take();
-    for (const QString &line : lines) {
-        const QString operation = line.section(' ', 0, 0);
-        const bool isQuestion =
-            operation.startsWith("get") || operation.startsWith("is") || operation.contains('.');
-        if (!isQuestion)
-            commands.append(line);
-    }
+    QStringList commands = log().commands();
+    log().clear();
     return commands;
 }
 

@@ -3,29 +3,13 @@
 
 #pragma once
 
+#include "kit/PanelProperty.h"
+#include "kit/widgets.h"
 #include "tests/overlayeditor/EditorTest.h"
 
 #include <QAbstractButton>
 #include <QDoubleSpinBox>
 #include <QRegularExpression>
-
-/// A property of overlays that the panel shows in one control, with two values to tell apart.
-struct PanelProperty
-{
-    using Signal = void (kxOverlayService::*)(const QRPC::NodeList &);
-
-    /// Which selections show it: those of overlays, or only of one type.
-    enum Guard { None, Overlays, Texts, Images };
-
-    const char *name;
-    const char *getter;
-    Signal changed;
-    const char *control;
-    Guard guard;
-    void (*put)(RecordingService::Node *node, int which);
-    QString (*shown)(const kxOverlayEditorGUIW &form);
-    const char *values[2];
-};
 
 /// Base of the tests of the property panel.
 class PanelTest : public EditorTest
@@ -34,7 +18,7 @@ class PanelTest : public EditorTest
 
 protected:
     /// Every property of the panel; the offset has a row for each coordinate.
-    static const QVector<PanelProperty> &properties();
+    static const QVector<PanelProperty> &properties() { return PanelProperty::all(); }
 
     /// Adds a row for each property, by its place in the list; of the named guards when there are
     /// any.
@@ -54,8 +38,7 @@ protected:
     /// What the service was told since the log was emptied.
     QStringList writes() { return log().lines().filter(QRegularExpression("^set")); }
 
-    /// Marked as mixed: by the value true, which is the only one that is ever set.
-    static bool isMarked(const QWidget &control);
+    static bool isMarked(const QWidget &control) { return widgets::isMarked(control); }
 
     QAbstractSlider &sizeHandle();
     QDoubleSpinBox &sizeField();

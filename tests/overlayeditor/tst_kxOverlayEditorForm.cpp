@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: the Overlay Editor authors
 // SPDX-License-Identifier: MIT
 
+#include "kit/FormMember.h"
 #include "overlayeditor/kxOverlayEditorGUIW.h"
 #include "tests/support/KxTest.h"
 
@@ -10,74 +11,78 @@ namespace {
 
 using Form = Ui::kxOverlayEditorGUI;
 
-/// One member of the form: its class, the object it belongs to and, in a grid, its cell.
-struct Member
+/// One member of the form, and where it is.
+struct Member : FormMember
 {
-    const char *name;
-    const char *className;
-    const char *parent;
-    int row;
-    int column;
     const QObject *object;
     quintptr place; ///< of the member in the form
 };
 
-#define KX_MEMBER(name, className, parent, row, column)                                            \
-    {                                                                                              \
-#name, className, parent, row, column, form.name, quintptr(&form.name)                     \
-    }
-
-/// All members in the order of their declaration; -1 for what lies in no grid.
-QVector<Member> membersOf(const Form &form)
+/// All members in the order of their declaration: a table, long as it has a row for each.
+QVector<Member> membersOf(const Form &form) // NOLINT(readability-function-size)
 {
-    return {
-        KX_MEMBER(centralwidget, "QWidget", "window", -1, -1),
-        KX_MEMBER(gridLayout, "QGridLayout", "centralwidget", -1, -1),
-        KX_MEMBER(splitter, "QSplitter", "centralwidget", 0, 0),
-        KX_MEMBER(_tree_frame_layout, "QFrame", "splitter", -1, -1),
-        KX_MEMBER(verticalLayout_3, "QVBoxLayout", "_tree_frame_layout", -1, -1),
-        KX_MEMBER(_overlay_tree_frame, "QFrame", "_tree_frame_layout", -1, -1),
-        KX_MEMBER(_property_scrollArea, "QScrollArea", "splitter", -1, -1),
-        KX_MEMBER(scrollAreaWidgetContents, "QWidget", "", -1, -1),
-        KX_MEMBER(verticalLayout, "QVBoxLayout", "scrollAreaWidgetContents", -1, -1),
-        KX_MEMBER(_property_frame, "QKXCollapsibleFrame", "scrollAreaWidgetContents", -1, -1),
-        KX_MEMBER(page, "QWidget", "", -1, -1),
-        KX_MEMBER(gridLayout_2, "QGridLayout", "page", -1, -1),
-        KX_MEMBER(_overlay_name, "QLineEdit", "page", 0, 1),
-        KX_MEMBER(_font_color_label, "QLabel", "page", 5, 0),
-        KX_MEMBER(_background_slider, "QKXColorManipulator", "page", 6, 1),
-        KX_MEMBER(_name_label, "QLabel", "page", 0, 0),
-        KX_MEMBER(_type_label, "QLabel", "page", 1, 0),
-        KX_MEMBER(_transparency_slider, "QKXColorManipulator", "page", 7, 1),
-        KX_MEMBER(_color_slider, "QKXColorManipulator", "page", 5, 1),
-        KX_MEMBER(_image_radio_button, "QRadioButton", "page", 2, 1),
-        KX_MEMBER(_text_radio_button, "QRadioButton", "page", 1, 1),
-        KX_MEMBER(_font_combo_box, "QFontComboBox", "page", 4, 1),
-        KX_MEMBER(_text_label, "QLabel", "page", 3, 0),
-        KX_MEMBER(_text_edit, "QPlainTextEdit", "page", 3, 1),
-        KX_MEMBER(_transparency_label, "QLabel", "page", 7, 0),
-        KX_MEMBER(_background_label, "QLabel", "page", 6, 0),
-        KX_MEMBER(_font_label, "QLabel", "page", 4, 0),
-        KX_MEMBER(_image_label, "QLabel", "page", 8, 0),
-        KX_MEMBER(_image_edit, "QKXTextureControls", "page", 8, 1),
-        KX_MEMBER(_size_position_frame, "QKXCollapsibleFrame", "scrollAreaWidgetContents", -1, -1),
-        KX_MEMBER(page_2, "QWidget", "", -1, -1),
-        KX_MEMBER(gridLayout_4, "QGridLayout", "page_2", -1, -1),
-        KX_MEMBER(horizontalLayout, "QHBoxLayout", "gridLayout_4", 4, 1),
-        KX_MEMBER(_offset_x_spin_box, "QKXDoubleSpiner", "page_2", -1, -1),
-        KX_MEMBER(_offset_y_spin_box, "QKXDoubleSpiner", "page_2", -1, -1),
-        KX_MEMBER(_offset_spacer_frame, "QFrame", "page_2", -1, -1),
-        KX_MEMBER(_offset_label, "QLabel", "page_2", 4, 0),
-        KX_MEMBER(_type_label_2, "QLabel", "page_2", 0, 0),
-        KX_MEMBER(_position_label, "QLabel", "page_2", 3, 0),
-        KX_MEMBER(_size_label, "QLabel", "page_2", 2, 0),
-        KX_MEMBER(_absolute_radio_button, "QRadioButton", "page_2", 0, 1),
-        KX_MEMBER(_position_combo_box, "QComboBox", "page_2", 3, 1),
-        KX_MEMBER(_relative_radio_button, "QRadioButton", "page_2", 1, 1),
-        KX_MEMBER(_size_slider, "QKXSlider", "page_2", 2, 1),
-        KX_MEMBER(_offset_spacer_frame2, "QFrame", "scrollAreaWidgetContents", -1, -1),
-        KX_MEMBER(statusbar, "QStatusBar", "window", -1, -1),
+#define KX_MEMBER(name)                                                                            \
+    {                                                                                              \
+#name, form.name, quintptr(&form.name)                                                     \
+    }
+    const struct
+    {
+        const char *name;
+        const QObject *object;
+        quintptr place;
+    } found[] = {
+        KX_MEMBER(centralwidget),
+        KX_MEMBER(gridLayout),
+        KX_MEMBER(splitter),
+        KX_MEMBER(_tree_frame_layout),
+        KX_MEMBER(verticalLayout_3),
+        KX_MEMBER(_overlay_tree_frame),
+        KX_MEMBER(_property_scrollArea),
+        KX_MEMBER(scrollAreaWidgetContents),
+        KX_MEMBER(verticalLayout),
+        KX_MEMBER(_property_frame),
+        KX_MEMBER(page),
+        KX_MEMBER(gridLayout_2),
+        KX_MEMBER(_overlay_name),
+        KX_MEMBER(_font_color_label),
+        KX_MEMBER(_background_slider),
+        KX_MEMBER(_name_label),
+        KX_MEMBER(_type_label),
+        KX_MEMBER(_transparency_slider),
+        KX_MEMBER(_color_slider),
+        KX_MEMBER(_image_radio_button),
+        KX_MEMBER(_text_radio_button),
+        KX_MEMBER(_font_combo_box),
+        KX_MEMBER(_text_label),
+        KX_MEMBER(_text_edit),
+        KX_MEMBER(_transparency_label),
+        KX_MEMBER(_background_label),
+        KX_MEMBER(_font_label),
+        KX_MEMBER(_image_label),
+        KX_MEMBER(_image_edit),
+        KX_MEMBER(_size_position_frame),
+        KX_MEMBER(page_2),
+        KX_MEMBER(gridLayout_4),
+        KX_MEMBER(horizontalLayout),
+        KX_MEMBER(_offset_x_spin_box),
+        KX_MEMBER(_offset_y_spin_box),
+        KX_MEMBER(_offset_spacer_frame),
+        KX_MEMBER(_offset_label),
+        KX_MEMBER(_type_label_2),
+        KX_MEMBER(_position_label),
+        KX_MEMBER(_size_label),
+        KX_MEMBER(_absolute_radio_button),
+        KX_MEMBER(_position_combo_box),
+        KX_MEMBER(_relative_radio_button),
+        KX_MEMBER(_size_slider),
+        KX_MEMBER(_offset_spacer_frame2),
+        KX_MEMBER(statusbar),
     };
+#undef KX_MEMBER
+    QVector<Member> members;
+    for (int i = 0; i < FormMember::all().size(); ++i)
+        members.append({FormMember::all().at(i), found[i].object, found[i].place});
+    return members;
 }
 
 /// The cell of an object in the grid that holds it.
@@ -251,22 +256,8 @@ void tst_kxOverlayEditorForm::shouldNestItsContainers()
 void tst_kxOverlayEditorForm::shouldShowItsTexts_data()
 {
     QTest::addColumn<QString>("text");
-    QTest::newRow("_font_color_label") << "Font Color";
-    QTest::newRow("_name_label") << "Name";
-    QTest::newRow("_type_label") << "Type";
-    QTest::newRow("_image_radio_button") << "Image";
-    QTest::newRow("_text_radio_button") << "Text";
-    QTest::newRow("_text_label") << "Text";
-    QTest::newRow("_transparency_label") << "Background Transparency";
-    QTest::newRow("_background_label") << "Background Color";
-    QTest::newRow("_font_label") << "Font";
-    QTest::newRow("_image_label") << "Image";
-    QTest::newRow("_offset_label") << "Offset XY";
-    QTest::newRow("_type_label_2") << "Scale";
-    QTest::newRow("_position_label") << "Position";
-    QTest::newRow("_size_label") << "Size";
-    QTest::newRow("_absolute_radio_button") << "Absolute";
-    QTest::newRow("_relative_radio_button") << "Relative";
+    for (const auto &[name, text] : FormMember::texts())
+        QTest::newRow(name) << text;
 }
 
 void tst_kxOverlayEditorForm::shouldShowItsTexts()

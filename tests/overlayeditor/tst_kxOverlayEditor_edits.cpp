@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "host/QKXImageFileDialog.h"
+#include "kit/PanelEdit.h"
+#include "kit/output.h"
 #include "tests/overlayeditor/PanelTest.h"
 
 #include <QDir>
@@ -9,92 +11,9 @@
 #include <QLineEdit>
 #include <QSlider>
 #include <QTemporaryDir>
-#include <QTemporaryFile>
 #include <QTimer>
 
-#include <cstdio>
-#include <unistd.h>
-
 namespace {
-
-using Form = kxOverlayEditorGUIW;
-
-/// An edit as the user's hand makes it, and the line of the one call that it causes.
-struct Edit
-{
-    const char *name;
-    void (*make)(Form &form);
-    const char *call;
-};
-
-const Edit s_edits[] = {
-    {"name",
-     [](Form &form) {
-         form._overlay_name->setText("new");
-         QTest::keyClick(form._overlay_name, Qt::Key_Return);
-     },
-     R"(setName %1 "new")"},
-    {"type", [](Form &form) { form._image_radio_button->click(); }, "setOverlayType %1 1"},
-    {"same type", [](Form &form) { form._text_radio_button->click(); }, "setOverlayType %1 0"},
-    {"text", [](Form &form) { form._text_edit->setPlainText("x\ny"); }, "setText %1 \"x\ny\""},
-    {"font",
-     [](Form &form) { form._font_combo_box->setCurrentFont(QFont("DejaVu Serif", 33, 75)); },
-     R"(setFont %1 "DejaVu Serif")"},
-    {"font color", [](Form &form) { Q_EMIT form._color_slider->colorChanged(1.0F, 0.5F, 0.0F); },
-     "setFontColor %1 #ffff8000"},
-    {"background color",
-     [](Form &form) { Q_EMIT form._background_slider->colorChanged(0.0F, 1.0F, 0.2F); },
-     "setBackgroundColor %1 #ff00ff33"},
-    {"transparency",
-     [](Form &form) { Q_EMIT form._transparency_slider->colorChanged(0.4F, 0.4F, 0.4F); },
-     "setBackgroundTransparency %1 #ff666666"},
-    {"image file", [](Form &form) { Q_EMIT form._image_edit->changedTextureFile("/no/b.png"); },
-     R"(setImage %1 "/no/b.png")"},
-    {"use of the image",
-     [](Form &form) {
-         form._image_edit->setTexture("/no/c.png");
-         Q_EMIT form._image_edit->changedTexture();
-     },
-     R"(setImage %1 "/no/c.png")"},
-    {"reload",
-     [](Form &form) {
-         form._image_edit->setTexture("/no/d.png");
-         Q_EMIT form._image_edit->clickedReloadTexture();
-     },
-     R"(setImage %1 "/no/d.png")"},
-    {"clear",
-     [](Form &form) {
-         form._image_edit->setTexture("/no/d.png");
-         Q_EMIT form._image_edit->clickedClearTexture();
-     },
-     R"(setImage %1 "")"},
-    {"size type", [](Form &form) { form._relative_radio_button->click(); }, "setSizeType %1 1"},
-    {"same size type", [](Form &form) { form._absolute_radio_button->click(); },
-     "setSizeType %1 0"},
-    {"size", [](Form &form) { form._size_slider->setValue(33.25); }, "setSize %1 33.25"},
-    {"position", [](Form &form) { form._position_combo_box->setCurrentIndex(2); },
-     "setPosition %1 (0.5,1)"},
-    {"offset x", [](Form &form) { form._offset_x_spin_box->setValue(-7.5); }, "setOffsetX %1 -7.5"},
-    {"offset y", [](Form &form) { form._offset_y_spin_box->setValue(8.25); }, "setOffsetY %1 8.25"},
-};
-
-/// What `action` writes to the standard output.
-template<class Action>
-QByteArray outputOf(Action action)
-{
-    QTemporaryFile file;
-    if (!file.open())
-        return "no file";
-    std::fflush(stdout);
-    const int terminal = dup(STDOUT_FILENO);
-    dup2(file.handle(), STDOUT_FILENO);
-    action();
-    std::fflush(stdout);
-    dup2(terminal, STDOUT_FILENO);
-    close(terminal);
-    file.seek(0);
-    return file.readAll();
-}
 
 /// Does something with the file dialog as soon as its own loop runs.
 template<class Action>
@@ -141,8 +60,8 @@ private:
 void tst_kxOverlayEditor_edits::addEdits()
 {
     QTest::addColumn<int>("row");
-    for (int row = 0; row < int(std::size(s_edits)); ++row)
-        QTest::newRow(s_edits[row].name) << row;
+    for (int row = 0; row < PanelEdit::all().size(); ++row)
+        QTest::newRow(PanelEdit::all().at(row).name) << row;
 }
 
 void tst_kxOverlayEditor_edits::shouldSendOneValueToTheWholeSelection()
@@ -150,8 +69,8 @@ void tst_kxOverlayEditor_edits::shouldSendOneValueToTheWholeSelection()
     QFETCH(int, row);
     openEditor("a2 b3 c4 d5");
     select({5, 2, 4});
-    QCOMPARE(commandsOf([&] { s_edits[row].make(window()); }),
-             QStringList(QString(s_edits[row].call).arg("[5,2,4]")));
+    QCOMPARE(commandsOf([&] { PanelEdit::all().at(row).make(window()); }),
+             QStringList(QString(PanelEdit::all().at(row).call).arg("[5,2,4]")));
 }
 
 void tst_kxOverlayEditor_edits::shouldSendAnEmptyListWithoutSelection()
@@ -161,8 +80,8 @@ void tst_kxOverlayEditor_edits::shouldSendAnEmptyListWithoutSelection()
     select({});
     editor().setInputEnabled(true); // a radio button that is disabled takes no click
     window()._overlay_name->setEnabled(true);
-    QCOMPARE(commandsOf([&] { s_edits[row].make(window()); }),
-             QStringList(QString(s_edits[row].call).arg("[]")));
+    QCOMPARE(commandsOf([&] { PanelEdit::all().at(row).make(window()); }),
+             QStringList(QString(PanelEdit::all().at(row).call).arg("[]")));
 }
 
 void tst_kxOverlayEditor_edits::shouldSendOpaqueColors()
@@ -275,7 +194,7 @@ void tst_kxOverlayEditor_edits::shouldOnlyPrintALineForUnfinishedButtons()
     openEditor("a2");
     select({2});
     const QByteArray output =
-        outputOf([&] { QMetaObject::invokeMethod(window()._image_edit, signal.constData()); });
+        output::of([&] { QMetaObject::invokeMethod(window()._image_edit, signal.constData()); });
     QCOMPARE(output, line);
     QCOMPARE(log().lines(), QStringList());
 }

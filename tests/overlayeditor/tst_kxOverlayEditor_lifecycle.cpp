@@ -4,6 +4,7 @@
 #include "host/kxIconManager.h"
 #include "host/kxKernelServiceFactory.h"
 #include "host/kxShortcut.h"
+#include "kit/editorSlots.h"
 #include "tests/overlayeditor/EditorTest.h"
 
 #include <QPlainTextEdit>
@@ -153,53 +154,7 @@ void tst_kxOverlayEditor_lifecycle::shouldDeclareFiftyThreeSlotsInOrder()
         QCOMPARE(meta.method(i).access(), QMetaMethod::Private);
         declared.append(QString::fromLatin1(meta.method(i).methodSignature()));
     }
-    QStringList wanted{"init()",
-                       "show()",
-                       "nodesCreated(QRPC::NodeList)",
-                       "nodeRemovedUpdate(QRPC::NodeId)",
-                       "nodesRemovedUpdate(QRPC::NodeList)",
-                       "nameChanged()",
-                       "typeChanged(int)",
-                       "textChanged()",
-                       "fontChanged(QFont)",
-                       "fontColorChanged(float,float,float)",
-                       "fontBackgroundChanged(float,float,float)",
-                       "fontTransparencyChanged(float,float,float)",
-                       "loadImage()",
-                       "reloadImage()",
-                       "writeImage()",
-                       "showTextureInfo()",
-                       "clearImage()",
-                       "changedImage()",
-                       "setImage(QString)",
-                       "sizeTypeChanged(int)",
-                       "sizeChanged(double)",
-                       "sizeSliderChanged()",
-                       "positionChanged(int)",
-                       "offsetXChanged(double)",
-                       "offsetYChanged(double)",
-                       "searchChanged(QString)",
-                       "selectionChanged()",
-                       "createOverlay()",
-                       "deleteOverlays()",
-                       "duplicateOverlays()",
-                       "renameOverlay()",
-                       "find()",
-                       "selectAll()",
-                       "deselectAll()",
-                       "invertSelection()",
-                       "createGroupFromSelection()",
-                       "createOverlayGroup()",
-                       "createSwitch()",
-                       "toggle()",
-                       "switchOn()",
-                       "switchOff()"};
-    for (const char *property :
-         {"OverlayType", "Name", "Text", "Font", "FontColor", "BackgroundColor",
-          "BackgroundTransparency", "Image", "SizeType", "Size", "Position", "Offset"})
-        wanted.append(QStringLiteral("update%1(QRPC::NodeList)").arg(property));
-    QCOMPARE(wanted.size(), 53);
-    QCOMPARE(declared, wanted);
+    QCOMPARE(declared, editorSlots());
 }
 
 void tst_kxOverlayEditor_lifecycle::shouldDeclareOneSignalOfItsWindow()

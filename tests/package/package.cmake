@@ -39,6 +39,7 @@ file(RENAME "${place}/installed" "${prefix}")
 
 want_files(
     ${BINDIR}/overlay-viewer
+    ${BINDIR}/conformance
     include/overlay-editor/host/kxOverlayService.h
     include/overlay-editor/host/initPlugin.h
     ${LIBDIR}/libkxhost.so

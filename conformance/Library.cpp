@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "conformance/Library.h"
+
+#include <QFileInfo>
+#include <QLibrary>
+
+#include <stdexcept>
+
+namespace conformance {
+
+QFunctionPointer entryOf(const QString &file, const char *function)
+{
+    // A bare name would be looked up among the system's libraries.
+    const QString path = QFileInfo(file).absoluteFilePath();
+    QLibrary library(path);
+    library.setLoadHints(QLibrary::ResolveAllSymbolsHint);
+    if (!library.load())
+        throw std::runtime_error(library.errorString().toStdString());
+    const QFunctionPointer entry = library.resolve(function);
+    if (!entry)
+        throw std::runtime_error(
+            QStringLiteral("%1 does not export %2").arg(path, function).toStdString());
+    return entry;
+}
+
+} // namespace conformance

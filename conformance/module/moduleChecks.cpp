@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "conformance/module/moduleChecks.h"
+
+namespace conformance {
+
+ModuleChecks moduleChecks()
+{
+    return joined<ModuleBench>({entryChecks(), formChecks(), treeChecks(), itemChecks()});
+}
+
+} // namespace conformance
