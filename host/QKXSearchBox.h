@@ -24,9 +24,13 @@ public:
     /// module's "find" command.
     void beginSearch();
 
+    /// Announces the text once more, since what is searched has changed. Called by the host.
+    void searchAgain();
+
 Q_SIGNALS:
-    /// The text has changed, by typing, clearing or setText(); with the whole text. All modules
-    /// read it alike: QRegExp::Wildcard, case counts, found anywhere in a name; empty finds all.
+    /// The text has changed, by typing, clearing or setText(), or is to be searched again; with the
+    /// whole text. All modules read it alike: QRegExp::Wildcard, case counts, found anywhere in a
+    /// name; empty finds all.
     void searchChanged(const QString &text);
 
 protected:

@@ -46,6 +46,11 @@ void QKXSearchBox::beginSearch()
     selectAll();
 }
 
+void QKXSearchBox::searchAgain()
+{
+    Q_EMIT searchChanged(text());
+}
+
 bool QKXSearchBox::event(QEvent *event)
 {
     // While there is a text to clear, Escape must not reach a shortcut of the window.

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void init() override;
     void cleanup() override;
     void shouldAnnounceEachChangeOfTheText();
+    void shouldAnnounceItsTextOnceMoreToSearchAgain();
     void shouldTakeTheFocusAndSelectItsTextToBeginASearch();
     void shouldClearByItsButton();
     void shouldClearOnEscapeAndThenLeaveEscapeToTheWindow();
@@ -70,6 +71,15 @@ void tst_QKXSearchBox::shouldAnnounceEachChangeOfTheText()
     QCOMPARE(changes, QList<QVariantList>(
                           {{QStringLiteral("a")}, {QStringLiteral("ab")}, {QStringLiteral("a")}}));
     QCOMPARE(m_box->text(), QStringLiteral("a"));
+}
+
+void tst_QKXSearchBox::shouldAnnounceItsTextOnceMoreToSearchAgain()
+{
+    m_box->setText(QStringLiteral("ab"));
+    QSignalSpy changes(m_box, SIGNAL(searchChanged(const QString &)));
+    m_box->searchAgain();
+    QCOMPARE(changes, QList<QVariantList>({{QStringLiteral("ab")}}));
+    QCOMPARE(m_box->text(), QStringLiteral("ab"));
 }
 
 void tst_QKXSearchBox::shouldTakeTheFocusAndSelectItsTextToBeginASearch()

@@ -13,7 +13,7 @@
 
 namespace {
 
-/// Answers for the editor's context only and marks what it translated.
+/// Answers for the editor's context, marking what it translated, and for one key of the toolkit.
 class MarkingTranslator : public QTranslator
 {
 public:
@@ -21,6 +21,8 @@ public:
 
     QString translate(const char *context, const char *text, const char *, int) const override
     {
+        if (qstrcmp(context, "QShortcut") == 0 && qstrcmp(text, "Ctrl") == 0)
+            return "Strg";
         return qstrcmp(context, "kxOverlayEditor") == 0 ? QLatin1Char('*') + QString(text)
                                                         : QString();
     }
@@ -203,6 +205,7 @@ void tst_kxOverlayEditor_construction::shouldTranslateWhatTheUserSees()
     const QList<QAction *> entries = tree().findChild<QMenu *>()->actions();
     for (const QAction *entry : entries)
         QVERIFY2(entry->isSeparator() || isMarked(entry->text()), qPrintable(entry->text()));
+    QCOMPARE(entries.at(1)->text(), QString("*Create Group\tStrg+G"));
     const auto *bar = window().findChild<QKXToolBar *>("QuickActionBar");
     QVERIFY(isMarked(bar->windowTitle()));
     const QList<QAction *> actions = bar->actions();

@@ -4,12 +4,17 @@
 #include "viewer/app/SearchGuide.h"
 
 #include "host/QKXSearchBox.h"
+#include "host/kxIconManager.h"
 
 #include <QBoxLayout>
 #include <QHash>
 #include <QLabel>
 #include <QRegExp>
+#include <QToolButton>
 #include <QTreeView>
+#include <QVector>
+
+#include <algorithm>
 
 namespace viewer {
 
@@ -78,29 +83,61 @@ SearchGuide::SearchGuide(QKXSearchBox *box, QTreeView *tree)
     , m_box(box)
     , m_tree(tree)
     , m_label(new QLabel(box->parentWidget()))
+    , m_changesLine(new QWidget(box->parentWidget()))
+    , m_changes(new QLabel(m_changesLine))
 {
     m_label->setObjectName(QStringLiteral("searchGuide"));
     m_label->setAccessibleName(tr("Search result"));
     m_label->setWordWrap(true);
     m_label->setContentsMargins(4, 2, 4, 3);
     m_label->hide();
+    createChangesLine();
     auto *layout = qobject_cast<QBoxLayout *>(box->parentWidget()->layout());
     layout->insertWidget(layout->indexOf(box) + 1, m_label);
+    layout->insertWidget(layout->indexOf(box) + 2, m_changesLine);
     m_turn.setSingleShot(true);
     connect(&m_turn, &QTimer::timeout, this, &SearchGuide::count);
     follow();
 }
 
+void SearchGuide::createChangesLine()
+{
+    m_changes->setObjectName(QStringLiteral("searchChanges"));
+    m_changes->setWordWrap(true);
+    auto *again = new QToolButton(m_changesLine);
+    again->setObjectName(QStringLiteral("searchAgain"));
+    again->setIcon(kxIconManager::getIcon("Reload", ""));
+    again->setToolTip(tr("Search again"));
+    again->setAccessibleName(tr("Search again"));
+    again->setAutoRaise(true);
+    auto *layout = new QHBoxLayout(m_changesLine);
+    layout->setContentsMargins(4, 0, 0, 3);
+    layout->addWidget(m_changes, 1);
+    layout->addWidget(again);
+    m_changesLine->hide();
+    QWidget::setTabOrder(m_box, again);
+    connect(again, &QToolButton::clicked, m_box, &QKXSearchBox::searchAgain);
+}
+
 void SearchGuide::follow()
 {
-    connect(m_box, &QKXSearchBox::searchChanged, this, &SearchGuide::scheduleCount);
+    connect(m_box, &QKXSearchBox::searchChanged, this, [this] {
+        m_hasChanged = false;
+        scheduleCount();
+    });
     connect(m_tree->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &SearchGuide::scheduleCount);
     const QAbstractItemModel *model = m_tree->model();
-    connect(model, &QAbstractItemModel::modelReset, this, &SearchGuide::scheduleCount);
-    connect(model, &QAbstractItemModel::rowsInserted, this, &SearchGuide::scheduleCount);
-    connect(model, &QAbstractItemModel::rowsRemoved, this, &SearchGuide::scheduleCount);
-    connect(model, &QAbstractItemModel::dataChanged, this, &SearchGuide::scheduleCount);
+    connect(model, &QAbstractItemModel::modelReset, this, &SearchGuide::noteChange);
+    connect(model, &QAbstractItemModel::rowsInserted, this, &SearchGuide::noteChange);
+    connect(model, &QAbstractItemModel::rowsRemoved, this, &SearchGuide::noteChange);
+    connect(model, &QAbstractItemModel::dataChanged, this, &SearchGuide::noteChange);
+}
+
+void SearchGuide::noteChange()
+{
+    m_hasChanged = true;
+    scheduleCount();
 }
 
 void SearchGuide::scheduleCount()
@@ -113,15 +150,21 @@ void SearchGuide::count()
 {
     const QString text = m_box->text();
     m_label->setVisible(!text.isEmpty());
-    if (text.isEmpty() || !m_tree)
+    if (text.isEmpty() || !m_tree) {
+        m_changesLine->hide();
         return;
+    }
     // What the modules' boxes search by: see QKXSearchBox.
-    const int found = matches(QRegExp(text, Qt::CaseSensitive, QRegExp::Wildcard));
+    const QRegExp pattern(text, Qt::CaseSensitive, QRegExp::Wildcard);
+    const int found = matches(pattern);
     QString line = found == 0 ? tr("Nothing found") : tr("%n found", nullptr, found);
     const int hidden = hiddenSelected();
     if (hidden > 0)
         line += QLatin1Char('\n') + tr("%n selected, but hidden by the search", nullptr, hidden);
     m_label->setText(line);
+    const int changed = m_hasChanged ? outdated(pattern) : 0;
+    m_changes->setText(tr("%n changed since the search", nullptr, changed));
+    m_changesLine->setVisible(changed > 0);
 }
 
 /// How many names match. Every match is shown, so that the rows below a hidden one are left out.
@@ -142,6 +185,34 @@ int SearchGuide::matches(const QRegExp &pattern) const
         }
     }
     return found;
+}
+
+/// How many rows are shown although they neither match nor hold a match, or the other way round.
+int SearchGuide::outdated(const QRegExp &pattern) const
+{
+    struct Row
+    {
+        QModelIndex index;
+        int parent;
+        bool shown;
+        bool kept;
+    };
+    const QAbstractItemModel *model = m_tree->model();
+    QVector<Row> rows{{m_tree->rootIndex(), 0, true, true}};
+    for (int at = 0; at < rows.size(); ++at) {
+        const Row parent = rows.at(at);
+        const int children = model->rowCount(parent.index);
+        for (int row = 0; row < children; ++row) {
+            const QModelIndex index = model->index(row, 0, parent.index);
+            rows.append({index, at, parent.shown && !m_tree->isRowHidden(row, parent.index),
+                         index.data().toString().contains(pattern)});
+        }
+    }
+    // Children stand behind their parents.
+    for (int at = rows.size() - 1; at > 0; --at)
+        rows[rows.at(at).parent].kept |= rows.at(at).kept;
+    return int(std::count_if(rows.cbegin(), rows.cend(),
+                             [](const Row &row) { return row.shown != row.kept; }));
 }
 
 int SearchGuide::hiddenSelected() const

@@ -15,7 +15,9 @@ class QWidget;
 namespace viewer {
 
 /// Says below a module's search box what the search has found, and when it hides rows that are
-/// selected: a command would change what nobody sees.
+/// selected: a command would change what nobody sees. Modules filter when the text changes and at no
+/// other time, so that a row does not vanish while it is being named; the guide says how many rows
+/// the search would now show or hide, and lets the user search again.
 ///
 /// Modules tell the host nothing about their searches. But the box is a widget of the host, and the
 /// rows that the module's filter leaves are plain to see in the tree below it. Changes nothing of
@@ -35,16 +37,22 @@ public:
     QLabel *label() const { return m_label; }
 
 private:
+    void createChangesLine();
     void follow();
+    void noteChange();
     void scheduleCount();
     void count();
     int matches(const QRegExp &pattern) const;
+    int outdated(const QRegExp &pattern) const;
     int hiddenSelected() const;
 
     QKXSearchBox *m_box;
     QPointer<QTreeView> m_tree;
     QLabel *m_label;
-    QTimer m_turn; // ends with the turn of the event loop
+    QWidget *m_changesLine; // the label of the changes and the button that searches again
+    QLabel *m_changes;
+    bool m_hasChanged = false; // since the search
+    QTimer m_turn;             // ends with the turn of the event loop
 };
 
 } // namespace viewer

@@ -29,8 +29,9 @@ struct NodeOffset
 /// modules live; GUI thread only.
 ///
 /// Beyond the contract it states:
-/// - New nodes become the last child, named by kind and counted ("Text 3"); copies are named
-///   "Name Copy" and stand directly behind their originals.
+/// - New nodes become the last child, named by kind and counted ("Text 3") on from the highest number
+///   that a node of the kind has had; copies are named "Name Copy" and stand behind their originals,
+///   those of neighbours together behind the last of them.
 /// - A node that enters a switch which already shows a child enters disabled.
 /// - Nodes are grouped at the place of the topmost one. When they include the child that a switch
 ///   shows, the group takes over from it and is shown.
@@ -168,6 +169,7 @@ private:
     // nodes
     Node newNode(NodeKind kind);
     void countName(NodeKind kind, const QString &name);
+    void announceCreated(const QRPC::NodeList &nodes);
     QRPC::NodeId create(NodeKind kind, QRPC::NodeId parent);
     QRPC::NodeId copyNode(QRPC::NodeId original);
     QRPC::NodeList copyBehind(QRPC::NodeId parent, const QSet<QRPC::NodeId> &originals);

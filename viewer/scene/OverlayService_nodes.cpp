@@ -78,6 +78,16 @@ Node OverlayService::newNode(NodeKind kind)
     return node;
 }
 
+/// A listener may have deleted what was only just added.
+void OverlayService::announceCreated(const NodeList &nodes)
+{
+    announceStructure([this, nodes] {
+        const NodeList created = knownNodes(m_scene, nodes);
+        if (!created.isEmpty())
+            Q_EMIT nodesCreated(created);
+    });
+}
+
 NodeId OverlayService::create(NodeKind kind, NodeId parent)
 {
     sendPostponed();
@@ -88,7 +98,7 @@ NodeId OverlayService::create(NodeKind kind, NodeId parent)
     m_scene.append(parent, id);
     recordAdded(creationOf(kind), {id});
     announceStructure(&kxOverlayService::nodesAdded, {id});
-    announceStructure(&kxOverlayService::nodesCreated, {id});
+    announceCreated({id});
     return id;
 }
 
@@ -184,7 +194,7 @@ void OverlayService::duplicateNodes(const NodeList &nodes)
     if (!copies.isEmpty())
         recordAdded(Operation::Duplicate, copies);
     announceStructure(&kxOverlayService::nodesAdded, copies);
-    announceStructure(&kxOverlayService::nodesCreated, copies);
+    announceCreated(copies);
 }
 
 void OverlayService::removeFromParents(const NodeList &nodes)
@@ -232,7 +242,7 @@ void OverlayService::groupNodes(const NodeList &nodes)
     if (m_scene.find(group)) // a listener may have deleted it
         fillGroup(group, tops, takesOver);
     m_history.close();
-    announceStructure(&kxOverlayService::nodesCreated, {group});
+    announceCreated({group});
 }
 
 void OverlayService::fillGroup(NodeId group, const NodeList &nodes, bool takesOver)

@@ -74,6 +74,9 @@ void OverlayService::setOverlayType(const NodeList &nodes, int type)
 
 void OverlayService::setName(const NodeList &nodes, const QString &name)
 {
+    const NodeList known = knownNodes(m_scene, nodes);
+    for (const NodeId id : known)
+        countName(m_scene.find(id)->kind, name);
     write(Operation::Rename, Property::Name, nodes, name);
 }
 

@@ -10,6 +10,9 @@ using QRPC::NodeList;
 using viewer::NodeKind;
 using viewer::Scene;
 
+using Command = void (*)(viewer::OverlayService &, const NodeList &);
+Q_DECLARE_METATYPE(Command)
+
 class tst_OverlayService_nodes : public ServiceTest
 {
     Q_OBJECT
@@ -24,6 +27,9 @@ private Q_SLOTS:
     void shouldCreateAsLastChildAndSelectIt();
     void shouldCountNamesByKind();
     void shouldCountOnFromTheNamesOfAnOpenedScene();
+    void shouldCountOnFromNamesThatAreGiven();
+    void shouldNotAnnounceAsCreatedWhatASlotHasDeleted_data();
+    void shouldNotAnnounceAsCreatedWhatASlotHasDeleted();
     void shouldCreateNothingWhereNothingCanLie();
     void shouldCreateDisabledInASwitchThatShowsOne();
     void shouldGiveANewTextUsefulValues();
@@ -31,6 +37,7 @@ private Q_SLOTS:
     void shouldIgnoreListsWithoutEffect_data();
     void shouldIgnoreListsWithoutEffect();
     void shouldPostponeWhatASlotAddsInsideAMove();
+    void shouldAnnounceThePostponedBeforeTheNextOperation_data();
     void shouldAnnounceThePostponedBeforeTheNextOperation();
     void shouldResetWithNewIds();
     void shouldHandleDeepTrees();
@@ -172,9 +179,48 @@ void tst_OverlayService_nodes::shouldCountOnFromTheNamesOfAnOpenedScene()
         opened.append(Scene::RootId, opened.add(node));
     }
     open("");
+    QString inReset;
+    connect(&service(), &kxOverlayService::modelReset, this,
+            [this, &inReset] { inReset = service().getName(service().createOverlay(id("root"))); });
     service().setScene(opened);
-    QCOMPARE(service().getName(service().createOverlay(id("root"))), QString("Text 13"));
+    QCOMPARE(inReset, QString("Text 13"));
     QCOMPARE(service().getName(service().createGroup(id("root"))), QString("Group 1"));
+}
+
+/// A new node must not be called like one that stands beside it.
+void tst_OverlayService_nodes::shouldCountOnFromNamesThatAreGiven()
+{
+    open("a b g()");
+    service().setName(ids("a"), "Text 7");
+    service().setName(ids("b g"), "Group 3");
+    QCOMPARE(service().getName(service().createOverlay(id("root"))), QString("Text 8"));
+    QCOMPARE(service().getName(service().createGroup(id("root"))), QString("Group 4"));
+}
+
+void tst_OverlayService_nodes::shouldNotAnnounceAsCreatedWhatASlotHasDeleted_data()
+{
+    QTest::addColumn<Command>("command");
+    QTest::addColumn<QStringList>("signalled");
+    QTest::newRow("create") << Command([](auto &service, const NodeList &) {
+        service.createOverlay(service.getRootNode());
+    }) << QStringList({"nodesAdded Text 1", "nodesRemoved Text 1"});
+    QTest::newRow("duplicate") << Command([](auto &service, const NodeList &nodes) {
+        service.duplicateNodes(nodes);
+    }) << QStringList({"nodesAdded a Copy b Copy", "nodesRemoved a Copy", "nodesCreated b Copy"});
+    QTest::newRow("group") << Command([](auto &service, const NodeList &nodes) {
+        service.groupNodes(nodes);
+    }) << QStringList({"nodesAdded Group 1", "nodesRemoved Group 1"});
+}
+
+void tst_OverlayService_nodes::shouldNotAnnounceAsCreatedWhatASlotHasDeleted()
+{
+    QFETCH(Command, command);
+    QFETCH(QStringList, signalled);
+    open("a b");
+    connect(&service(), &kxOverlayService::nodesAdded, this,
+            [this](const NodeList &nodes) { service().deleteNodes({nodes.first()}); });
+    command(service(), ids("a b"));
+    QCOMPARE(signalLines(), signalled);
 }
 
 void tst_OverlayService_nodes::shouldCreateNothingWhereNothingCanLie()
@@ -272,17 +318,56 @@ void tst_OverlayService_nodes::shouldPostponeWhatASlotAddsInsideAMove()
                                          "nameChanged renamed", "enabledStateChanged a"}));
 }
 
+void tst_OverlayService_nodes::shouldAnnounceThePostponedBeforeTheNextOperation_data()
+{
+    using viewer::OverlayService;
+    QTest::addColumn<Command>("command");
+    QTest::addColumn<QStringList>("signalled");
+    const auto row = [](const char *name, Command command, const QStringList &signalled) {
+        QTest::newRow(name) << command << signalled;
+    };
+    row("create",
+        [](OverlayService &service, const NodeList &) {
+            service.createGroup(service.getRootNode());
+        },
+        {"nodesAdded Group 1", "nodesCreated Group 1"});
+    row("duplicate",
+        [](OverlayService &service, const NodeList &nodes) { service.duplicateNodes(nodes); },
+        {"nodesAdded b Copy", "nodesCreated b Copy"});
+    row("delete",
+        [](OverlayService &service, const NodeList &nodes) { service.deleteNodes(nodes); },
+        {"nodesRemoved b"});
+    row("group", [](OverlayService &service, const NodeList &nodes) { service.groupNodes(nodes); },
+        {"nodesAdded Group 1", "nodesMoved b / Group 1 / 0", "enabledStateChanged b",
+         "nodesCreated Group 1"});
+    row("move",
+        [](OverlayService &service, const NodeList &nodes) {
+            service.moveNodes(nodes, service.getRootNode(), -1);
+        },
+        {"nodesMoved b / root / g", "enabledStateChanged b"});
+    row("disable",
+        [](OverlayService &service, const NodeList &nodes) { service.setEnabled(nodes, false); },
+        {"enabledStateChanged b"});
+    row("write",
+        [](OverlayService &service, const NodeList &nodes) { service.setText(nodes, "x"); },
+        {"textChanged b"});
+    row("open", [](OverlayService &service, const NodeList &) { service.setScene(Scene()); },
+        {"modelReset"});
+}
+
 void tst_OverlayService_nodes::shouldAnnounceThePostponedBeforeTheNextOperation()
 {
+    QFETCH(Command, command);
+    QFETCH(QStringList, signalled);
     open("a b g()");
     auto once = connect(&service(), &kxOverlayService::nodesMoved, this,
                         [this] { service().createOverlay(id("g")); });
     service().moveNodes(ids("a"), id("g"), 0);
     disconnect(once);
-    service().deleteNodes(ids("b"));
-    QCOMPARE(signalLines(),
-             QStringList({"nodesMoved a / g / 0", "nodesAdded Text 1", "nodesCreated Text 1",
-                          "enabledStateChanged a", "nodesRemoved b"}));
+    command(service(), ids("b"));
+    const QStringList postponed{"nodesMoved a / g / 0", "nodesAdded Text 1", "nodesCreated Text 1",
+                                "enabledStateChanged a"};
+    QCOMPARE(signalLines(), postponed + signalled);
 }
 
 void tst_OverlayService_nodes::shouldResetWithNewIds()

@@ -104,6 +104,7 @@ private Q_SLOTS:
     void shouldListParentsBeforeChildren();
     void shouldEnable_data();
     void shouldEnable();
+    void shouldShowAnyChildOfASwitchAfterNone();
     void shouldEnableManyChildrenOfASwitchInTurn();
 };
 
@@ -311,6 +312,21 @@ void tst_OverlayService_values::shouldEnable()
     QCOMPARE(dump(), after);
     QCOMPARE(signalLines(),
              changed.isEmpty() ? QStringList() : QStringList("enabledStateChanged " + changed));
+}
+
+void tst_OverlayService_values::shouldShowAnyChildOfASwitchAfterNone()
+{
+    open("s{a b-} c");
+    service().setEnabled(ids("a"), false);
+    signalLines();
+    service().setEnabled(ids("b"), true);
+    QCOMPARE(dump(), QString("s{a- b} c"));
+    QCOMPARE(signalLines(), QStringList("enabledStateChanged b"));
+    QVERIFY(service().isActive(id("c")));
+    service().setEnabled(ids("b"), false);
+    service().createOverlay(id("s"));
+    service().moveNodes(ids("c"), id("s"), -1);
+    QCOMPARE(dump(), QString("s{a- b- Text 1 c-}"));
 }
 
 void tst_OverlayService_values::shouldEnableManyChildrenOfASwitchInTurn()
