@@ -9,6 +9,7 @@
 #include "overlayeditor/kxConnect.h"
 #include "overlayeditor/kxMultiselect.h"
 #include "overlayeditor/kxOverlayEditorGUIW.h"
+#include "overlayeditor/kxPaneWidth.h"
 
 #include <QButtonGroup>
 #include <QIcon>
@@ -62,6 +63,7 @@ void kxOverlayEditor::createPropertiesView()
 {
     orderFocus();
     nameControls(*m_window);
+    new kxPaneWidth(m_window->_property_scrollArea);
 
     kxConnect(m_window->_overlay_name, SIGNAL(editingFinished()), this, SLOT(nameChanged()));
 

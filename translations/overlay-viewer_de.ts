@@ -4,8 +4,8 @@
 <context>
     <name>KeyList</name>
     <message>
-        <source>The key %1 stands for &quot;%2&quot; of the menu and for &quot;%3&quot; of the module %4.</source>
-        <translation>Die Taste %1 steht für „%2“ im Menü und für „%3“ im Modul %4.</translation>
+        <source>%1 is the key of &quot;%2&quot; in the menu and of &quot;%3&quot; in %4.</source>
+        <translation>%1 ist die Taste von „%2“ im Menü und von „%3“ in %4.</translation>
     </message>
 </context>
 <context>
@@ -625,6 +625,10 @@ Ein Lauf ohne Fenster gibt zurück:
         <source>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Shows a scene and its text and image overlays, and hosts the modules that edit them.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Zeigt eine Szene mit ihren Text- und Bild-Overlays und nimmt die Module auf, die sie bearbeiten.&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>The command of the menu goes first.</source>
+        <translation>Der Befehl des Menüs hat Vorrang.</translation>
+    </message>
 </context>
 <context>
     <name>viewer::MainWindowService</name>
@@ -829,6 +833,90 @@ Ein Lauf ohne Fenster gibt zurück:
     </message>
 </context>
 <context>
+    <name>viewer::ScriptBridge</name>
+    <message>
+        <source>readText(path) takes one string, the path of a file.</source>
+        <translation>readText(path) erwartet einen String, den Pfad einer Datei.</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::ScriptCall</name>
+    <message>
+        <source>The number of arguments is wrong: %1 was called with %2.</source>
+        <translation>Die Anzahl der Argumente ist falsch: %1 wurde mit %2 aufgerufen.</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; must be the id of a node, which is a whole number.</source>
+        <translation>%1: „%2“ muss die Kennung eines Knotens sein, eine ganze Zahl.</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; must be an array with the ids of nodes.</source>
+        <translation>%1: „%2“ muss ein Array mit Kennungen von Knoten sein.</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; must be a whole number.</source>
+        <translation>%1: „%2“ muss eine ganze Zahl sein.</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; must be one of %3.</source>
+        <translation>%1: „%2“ muss einer dieser Werte sein: %3.</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; must be a number.</source>
+        <translation>%1: „%2“ muss eine Zahl sein.</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; must be true or false.</source>
+        <translation>%1: „%2“ muss true oder false sein.</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; must be a string.</source>
+        <translation>%1: „%2“ muss ein String sein.</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; must be a colour, as &quot;#rrggbb&quot; or &quot;#aarrggbb&quot;, or null for none.</source>
+        <translation>%1: „%2“ muss eine Farbe sein, als &quot;#rrggbb&quot; oder &quot;#aarrggbb&quot;, oder null für keine.</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; must be a point, as {x: 0.5, y: 1}.</source>
+        <translation>%1: „%2“ muss ein Punkt sein, als {x: 0.5, y: 1}.</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::ScriptRun</name>
+    <message>
+        <source>Run %1</source>
+        <translation>%1 ausführen</translation>
+    </message>
+    <message>
+        <source>The script &quot;%1&quot; was interrupted.</source>
+        <translation>Das Skript „%1“ wurde unterbrochen.</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::ScriptSource</name>
+    <message>
+        <source>There is no file &quot;%1&quot;.</source>
+        <translation>Es gibt keine Datei „%1“.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is too large: 16 MB can be read.</source>
+        <translation>Die Datei „%1“ ist zu groß: Es können 16 MB gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read: %2.</source>
+        <translation>Die Datei „%1“ kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is no text in UTF-8.</source>
+        <translation>Die Datei „%1“ ist kein Text in UTF-8.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; does not lie in the script&apos;s folder.</source>
+        <translation>Die Datei „%1“ liegt nicht im Ordner des Skripts.</translation>
+    </message>
+</context>
+<context>
     <name>viewer::SearchGuide</name>
     <message>
         <source>Search result</source>
@@ -879,6 +967,10 @@ Ein Lauf ohne Fenster gibt zurück:
         <source>No shortcut matches.</source>
         <translation>Kein Tastenkürzel passt dazu.</translation>
     </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 oder %2</translation>
+    </message>
 </context>
 <context>
     <name>viewer::UndoActions</name>
@@ -897,6 +989,14 @@ Ein Lauf ohne Fenster gibt zurück:
     <message>
         <source>&amp;Redo</source>
         <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
     </message>
 </context>
 <context>

@@ -4,8 +4,8 @@
 <context>
     <name>KeyList</name>
     <message>
-        <source>The key %1 stands for &quot;%2&quot; of the menu and for &quot;%3&quot; of the module %4.</source>
-        <translation>按键 %1 同时对应菜单的“%2”和模块 %4 的“%3”。</translation>
+        <source>%1 is the key of &quot;%2&quot; in the menu and of &quot;%3&quot; in %4.</source>
+        <translation>%1 同时是菜单中“%2”和%4中“%3”的按键。</translation>
     </message>
 </context>
 <context>
@@ -625,6 +625,10 @@ A headless run returns:
         <source>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Shows a scene and its text and image overlays, and hosts the modules that edit them.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;显示场景及其文本和图像叠加层，并承载编辑它们的模块。&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>The command of the menu goes first.</source>
+        <translation>菜单命令优先。</translation>
+    </message>
 </context>
 <context>
     <name>viewer::MainWindowService</name>
@@ -828,6 +832,90 @@ A headless run returns:
     </message>
 </context>
 <context>
+    <name>viewer::ScriptBridge</name>
+    <message>
+        <source>readText(path) takes one string, the path of a file.</source>
+        <translation>readText(path) 需要一个字符串，即文件路径。</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::ScriptCall</name>
+    <message>
+        <source>The number of arguments is wrong: %1 was called with %2.</source>
+        <translation>参数个数错误：调用 %1 时给出了 %2 个。</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; must be the id of a node, which is a whole number.</source>
+        <translation>%1：“%2”必须是节点标识，即整数。</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; must be an array with the ids of nodes.</source>
+        <translation>%1：“%2”必须是节点标识的数组。</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; must be a whole number.</source>
+        <translation>%1：“%2”必须是整数。</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; must be one of %3.</source>
+        <translation>%1：“%2”必须是以下值之一：%3。</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; must be a number.</source>
+        <translation>%1：“%2”必须是数字。</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; must be true or false.</source>
+        <translation>%1：“%2”必须是 true 或 false。</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; must be a string.</source>
+        <translation>%1：“%2”必须是字符串。</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; must be a colour, as &quot;#rrggbb&quot; or &quot;#aarrggbb&quot;, or null for none.</source>
+        <translation>%1：“%2”必须是 &quot;#rrggbb&quot; 或 &quot;#aarrggbb&quot; 形式的颜色，或 null 表示无颜色。</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; must be a point, as {x: 0.5, y: 1}.</source>
+        <translation>%1：“%2”必须是 {x: 0.5, y: 1} 形式的点。</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::ScriptRun</name>
+    <message>
+        <source>Run %1</source>
+        <translation>运行 %1</translation>
+    </message>
+    <message>
+        <source>The script &quot;%1&quot; was interrupted.</source>
+        <translation>脚本“%1”已中断。</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::ScriptSource</name>
+    <message>
+        <source>There is no file &quot;%1&quot;.</source>
+        <translation>没有文件“%1”。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is too large: 16 MB can be read.</source>
+        <translation>文件“%1”过大：最多可读取 16 MB。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read: %2.</source>
+        <translation>无法读取文件“%1”：%2。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is no text in UTF-8.</source>
+        <translation>文件“%1”不是 UTF-8 文本。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; does not lie in the script&apos;s folder.</source>
+        <translation>文件“%1”不在脚本所在的文件夹中。</translation>
+    </message>
+</context>
+<context>
     <name>viewer::SearchGuide</name>
     <message>
         <source>Search result</source>
@@ -876,6 +964,10 @@ A headless run returns:
         <source>No shortcut matches.</source>
         <translation>没有匹配的快捷键。</translation>
     </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 或 %2</translation>
+    </message>
 </context>
 <context>
     <name>viewer::UndoActions</name>
@@ -894,6 +986,14 @@ A headless run returns:
     <message>
         <source>&amp;Redo</source>
         <translation>重做(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
     </message>
 </context>
 <context>

@@ -36,6 +36,8 @@ private Q_SLOTS:
     void shouldShowItsTextsWhole();
     void shouldFitItsWidth_data();
     void shouldFitItsWidth();
+    void shouldKeepTheWidthThatItNeeds_data();
+    void shouldKeepTheWidthThatItNeeds();
 
 private:
     static void addKinds();
@@ -154,6 +156,20 @@ void tst_kxOverlayEditor_layout::shouldFitItsWidth()
                                                       : control->minimumSizeHint().width();
         QVERIFY2(control->width() >= least, qPrintable(control->objectName()));
     }
+}
+
+void tst_kxOverlayEditor_layout::shouldKeepTheWidthThatItNeeds_data()
+{
+    addKinds();
+}
+
+void tst_kxOverlayEditor_layout::shouldKeepTheWidthThatItNeeds()
+{
+    openNarrowPanel();
+    QSplitter &splitter = *window().splitter;
+    splitter.setSizes({splitter.width() - splitter.handleWidth() - 200, 200});
+    QCoreApplication::processEvents();
+    QCOMPARE(window()._property_scrollArea->horizontalScrollBar()->maximum(), 0);
 }
 
 KX_TEST_MAIN(tst_kxOverlayEditor_layout)

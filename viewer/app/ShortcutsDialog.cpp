@@ -10,6 +10,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -75,18 +76,24 @@ QTreeWidgetItem *ShortcutsDialog::addCategory(const QString &name)
     return category;
 }
 
-/// The column of the keys has room for the longest, also while that is not shown.
+/// Each column has room for its longest text, also while that is not shown.
 void ShortcutsDialog::fitColumns(const QList<QTreeWidgetItem *> &commands)
 {
     const QFontMetrics metrics = m_list->fontMetrics();
-    int widest = 0;
-    for (const QTreeWidgetItem *command : commands)
-        widest = qMax(widest, metrics.horizontalAdvance(command->text(1)));
+    int widest[] = {0, 0};
+    for (const QTreeWidgetItem *command : commands) {
+        for (int column = 0; column < 2; ++column)
+            widest[column] = qMax(widest[column], metrics.horizontalAdvance(command->text(column)));
+    }
     QHeaderView *header = m_list->header();
     header->setStretchLastSection(false);
     header->setSectionResizeMode(0, QHeaderView::Stretch);
     header->setSectionResizeMode(1, QHeaderView::Fixed);
-    header->resizeSection(1, widest + 4 * metrics.averageCharWidth());
+    const int keyWidth = widest[1] + 4 * metrics.averageCharWidth();
+    header->resizeSection(1, keyWidth);
+    const int bar = m_list->verticalScrollBar()->sizeHint().width() + 2 * m_list->frameWidth();
+    m_list->setMinimumWidth(m_list->indentation() + widest[0] + 2 * metrics.averageCharWidth()
+                            + keyWidth + bar);
 }
 
 void ShortcutsDialog::filter(const QString &text)

@@ -14,7 +14,7 @@ ViewArea::ViewArea(Background background, QWidget *parent)
     , m_notices(new NoticeArea(this))
 {
     setObjectName(QStringLiteral("viewArea"));
-    setMinimumSize(320, 240);
+    setMinimumSize(200, 150);
     const QString fault = background == Background::Painted ? tr("switched off for this run")
                                                             : Viewport::openGlFault();
     if (fault.isEmpty())

@@ -5,6 +5,7 @@
 
 #include "host/QKXColorManipulator.h"
 #include "host/QKXSearchBox.h"
+#include "viewer/app/ModulePanels.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -20,6 +21,7 @@ using namespace viewer;
 
 namespace {
 
+constexpr QSize UsualWindow(1600, 1000);
 constexpr QSize Display(1920, 1080);
 constexpr double MostOfDisplay = 0.94;
 
@@ -52,14 +54,19 @@ WholeViewer::WholeViewer()
     m_session = std::make_unique<ViewerSession>(line, m_settings.get());
     m_session->start();
     MainWindow *window = m_session->window();
-    window->resize(window->size().boundedTo(
-        Display * MostOfDisplay / QGuiApplication::primaryScreen()->devicePixelRatio()));
+    window->resize(UsualWindow.boundedTo(display() * MostOfDisplay));
+    window->modulePanels()->applyDefaultSizes();
     m_tree = window->findChild<QTreeView *>();
     m_tree->expandAll();
     QCoreApplication::processEvents();
 }
 
 WholeViewer::~WholeViewer() = default;
+
+QSize WholeViewer::display() const
+{
+    return Display / QGuiApplication::primaryScreen()->devicePixelRatio();
+}
 
 QString WholeViewer::writeScene() const
 {

@@ -31,6 +31,9 @@ public:
     /// Shows everything, one after the other.
     void visitAll(const Visitor &visit);
 
+    /// The size of the display that the window is made for.
+    QSize display() const;
+
     viewer::ViewerSession &session() { return *m_session; }
 
     /// What stands in texts in the user's words or those of the scene's file: paths and keys.
