@@ -19,6 +19,7 @@ private Q_SLOTS:
     void shouldFilterAsTheBoxSays();
     void shouldNotChangeTheModel();
     void shouldShowWhatChangesUntilTheTextDoes();
+    void shouldSearchTenThousandLevels();
 
 private:
     void openNamed();
@@ -167,6 +168,22 @@ void tst_kxOverlayEditor_search::shouldShowWhatChangesUntilTheTextDoes()
     QCOMPARE(visible(), QString("2(9 3 4)"));
     search("tex");
     QCOMPARE(visible(), QString("2(3)"));
+}
+
+void tst_kxOverlayEditor_search::shouldSearchTenThousandLevels()
+{
+    constexpr QRPC::NodeId depth = 10000;
+    openEditor("a2");
+    log().setKeepsLines(false);
+    const QRPC::NodeId top = service().insertChain(1, depth);
+    service().setName({top + depth - 1}, "deepest");
+    Q_EMIT service().nodesAdded({top});
+    search("deepest");
+    QVERIFY(tree().isRowHidden(0, QModelIndex()));
+    for (QModelIndex row = index(top + depth - 1); row.isValid(); row = row.parent())
+        QVERIFY(!tree().isRowHidden(row.row(), row.parent()));
+    search("nothing");
+    QVERIFY(tree().isRowHidden(1, QModelIndex()));
 }
 
 KX_TEST_MAIN(tst_kxOverlayEditor_search)
