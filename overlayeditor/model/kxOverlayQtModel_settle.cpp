@@ -103,13 +103,9 @@ void kxOverlayQtModel::settleChildren(QStandardItem *parent, const NodeSet &drop
 void kxOverlayQtModel::makeWay(QStandardItem *parent, int row, QRPC::NodeId id,
                                const NodeSet &dropped)
 {
-    const int at = rowOf(parent, row, id);
-    for (int left = at - row; left > 0; --left) {
-        if (dropped.contains(getNodeId(parent->child(row))))
-            parent->appendRow(parent->takeRow(row));
-        else
-            ++row;
-    }
+    int left = rowOf(parent, row, id) - row;
+    for (; left > 0 && dropped.contains(getNodeId(parent->child(row))); --left)
+        parent->appendRow(parent->takeRow(row));
 }
 
 /// The first row of a node from a row on; -1 for none.

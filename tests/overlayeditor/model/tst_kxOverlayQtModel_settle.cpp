@@ -27,7 +27,10 @@ private Q_SLOTS:
     void shouldLeaveRowsThatWereNotTouchedAlone();
     void shouldMoveOnlyTheDroppedRows_data();
     void shouldMoveOnlyTheDroppedRows();
+    void shouldMoveEachDroppedRowOnce();
     void shouldMendACopyWhoseRowHasShifted();
+    void shouldSkipACopyThatTheOneBeforeTakesIn();
+    void shouldSkipAParentThatTheOneBeforeLoses();
     void shouldKeepATreeThatWasNeverReset();
     void shouldTellWhichNodesWereDropped();
     void shouldForgetRowsThatAreGone();
@@ -166,6 +169,10 @@ void tst_kxOverlayQtModel_settle::shouldDropASecondRowOfANodeThatStayed()
     fill("a2 b3 c4");
     dragAndDrop({2}, 1, 3, {});
     QCOMPARE(shown(), QString("b3 c4 a2"));
+    // Nothing else happens to the rows of the group that it came from.
+    fill("g2(a3) h4() k5(b6)");
+    dragAndDrop({3}, 4, -1, {6});
+    QCOMPARE(shown(), QString("g2() h4(a3) k5(b6)"));
 }
 
 void tst_kxOverlayQtModel_settle::shouldEndWhenARowShowsTheRoot()
@@ -245,14 +252,19 @@ void tst_kxOverlayQtModel_settle::shouldMoveOnlyTheDroppedRows_data()
     QTest::addColumn<QRPC::NodeList>("dragged");
     QTest::addColumn<int>("row");
     QTest::addColumn<QRPC::NodeList>("order");
+    QTest::addColumn<QRPC::NodeList>("kept");
     using Nodes = QRPC::NodeList;
-    QTest::newRow("one, to the end") << Nodes{4} << 0 << Nodes{2, 3, 5, 6, 4};
-    QTest::newRow("one, to the front") << Nodes{4} << 5 << Nodes{4, 2, 3, 5, 6};
-    QTest::newRow("two, to the end") << Nodes{3, 4} << 0 << Nodes{2, 5, 6, 3, 4};
-    QTest::newRow("two, turned round") << Nodes{3, 4} << 0 << Nodes{2, 5, 6, 4, 3};
-    QTest::newRow("two, to the front") << Nodes{5, 6} << 2 << Nodes{6, 5, 2, 3, 4};
-    QTest::newRow("two, apart") << Nodes{2, 3} << 5 << Nodes{3, 4, 5, 2, 6};
-    QTest::newRow("all but one") << Nodes{2, 3, 4, 5} << 0 << Nodes{5, 3, 6, 2, 4};
+    QTest::newRow("one, to the end") << Nodes{4} << 0 << Nodes{2, 3, 5, 6, 4} << Nodes{2, 3, 5, 6};
+    QTest::newRow("one, to the front")
+        << Nodes{4} << 5 << Nodes{4, 2, 3, 5, 6} << Nodes{2, 3, 5, 6};
+    QTest::newRow("two, to the end") << Nodes{3, 4} << 0 << Nodes{2, 5, 6, 3, 4} << Nodes{2, 5, 6};
+    QTest::newRow("two, turned round")
+        << Nodes{3, 4} << 0 << Nodes{2, 5, 6, 4, 3} << Nodes{2, 5, 6};
+    QTest::newRow("two, to the front")
+        << Nodes{5, 6} << 2 << Nodes{6, 5, 2, 3, 4} << Nodes{2, 3, 4};
+    QTest::newRow("two, apart") << Nodes{2, 3} << 5 << Nodes{3, 4, 5, 2, 6} << Nodes{4, 5, 6};
+    QTest::newRow("all but one") << Nodes{2, 3, 4, 5} << 0 << Nodes{5, 3, 6, 2, 4} << Nodes{6};
+    QTest::newRow("another as well") << Nodes{4} << 0 << Nodes{6, 2, 3, 5, 4} << Nodes{2, 3, 5};
 }
 
 /// A service that keeps its children in an order of its own.
@@ -261,12 +273,11 @@ void tst_kxOverlayQtModel_settle::shouldMoveOnlyTheDroppedRows()
     QFETCH(QRPC::NodeList, dragged);
     QFETCH(int, row);
     QFETCH(QRPC::NodeList, order);
+    QFETCH(QRPC::NodeList, kept);
     fill("g2(a7) g3(b8) g4(c9) g5(d10) g6(e11)");
     QVector<QPersistentModelIndex> others;
-    for (const QRPC::NodeId id : {2, 3, 4, 5, 6}) {
-        if (!dragged.contains(id))
-            others.append(index(id));
-    }
+    for (const QRPC::NodeId id : qAsConst(kept))
+        others.append(index(id));
     service().setHook([&](const QString &) {
         for (const QRPC::NodeId id : qAsConst(order))
             service().place(id, 1, -1);
@@ -276,6 +287,24 @@ void tst_kxOverlayQtModel_settle::shouldMoveOnlyTheDroppedRows()
     KX_COMPARE_TREE(model(), service());
     for (const QPersistentModelIndex &other : qAsConst(others))
         QVERIFY(other.isValid());
+}
+
+/// Rows that had the same number in their old parents are dropped in no order.
+void tst_kxOverlayQtModel_settle::shouldMoveEachDroppedRowOnce()
+{
+    constexpr int count = 40;
+    QStringList line;
+    QRPC::NodeList children;
+    for (int i = 0; i < count; ++i) {
+        line.append(QStringLiteral("g%1(a%2)").arg(100 + i).arg(200 + i));
+        children.append(QRPC::NodeId(200 + i));
+    }
+    fill(line.join(' ') + " h2()");
+    QSignalSpy inserted(&model(), &QAbstractItemModel::rowsInserted);
+    dragAndDrop(children, 2, -1);
+    KX_COMPARE_TREE(model(), service());
+    // The copies themselves are inserted in a few steps.
+    QVERIFY2(inserted.count() < 2 * count, qPrintable(QString::number(inserted.count())));
 }
 
 void tst_kxOverlayQtModel_settle::shouldMendACopyWhoseRowHasShifted()
@@ -288,6 +317,31 @@ void tst_kxOverlayQtModel_settle::shouldMendACopyWhoseRowHasShifted()
     service().node(4).name = "x4";
     model().settle(trace);
     KX_COMPARE_TREE(model(), service());
+}
+
+void tst_kxOverlayQtModel_settle::shouldSkipACopyThatTheOneBeforeTakesIn()
+{
+    fill("a2");
+    const kxDropTrace trace(&model());
+    service().insert(1, 1, "g3() b4 c5");
+    Q_EMIT service().nodesAdded({3, 4, 5});
+    service().place(4, 3, 0);
+    service().node(5).name = "x5";
+    model().settle(trace);
+    KX_COMPARE_TREE(model(), service());
+    QCOMPARE(shown(), QString("a2 g3(b4) x5"));
+}
+
+void tst_kxOverlayQtModel_settle::shouldSkipAParentThatTheOneBeforeLoses()
+{
+    fill("g2() a3");
+    const kxDropTrace trace(&model());
+    service().createOverlay(1);
+    service().createOverlay(2);
+    service().erase({2});
+    model().settle(trace);
+    KX_COMPARE_TREE(model(), service());
+    QCOMPARE(shown(), QString("a3 n4"));
 }
 
 void tst_kxOverlayQtModel_settle::shouldKeepATreeThatWasNeverReset()
