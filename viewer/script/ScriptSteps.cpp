@@ -12,13 +12,6 @@ ScriptSteps::ScriptSteps(OverlayService *service, const QString &text) : m_servi
     m_groups.push_back(std::make_unique<StepGroup>(service, text, History::Group::OwnHistory));
 }
 
-ScriptSteps::~ScriptSteps()
-{
-    // The innermost group first; a vector would begin with the outermost.
-    while (!m_groups.empty())
-        m_groups.pop_back();
-}
-
 void ScriptSteps::rollBack()
 {
     while (cancel()) {

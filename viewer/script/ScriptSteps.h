@@ -18,7 +18,6 @@ class ScriptSteps
 {
 public:
     ScriptSteps(OverlayService *service, const QString &text);
-    ~ScriptSteps();
     Q_DISABLE_COPY(ScriptSteps)
 
     OverlayService *service() const { return m_service; }

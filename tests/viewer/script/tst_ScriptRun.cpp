@@ -298,12 +298,12 @@ void tst_ScriptRun::shouldHearEverySignal()
         script += QByteArray("overlays.NAME.connect((...lists) => print('NAME', lists));\n")
                       .replace("NAME", signal.name);
     write("titles.js", script + "overlays.setName([2], 'c')");
-    // Each signal is sent while the script waits for its operation.
+    // Each signal is sent while the script waits for its operation, each with a node of its own.
     connect(&service(), &kxOverlayService::nameChanged, this, [this] {
+        QRPC::NodeId node = 100;
         for (const ScriptSignal &signal : scriptSignals()) {
-            const bool isMove = qstrcmp(signal.name, "nodesMoved") == 0;
-            const QRPC::NodeList list{3};
-            if (isMove)
+            const QRPC::NodeList list{node++};
+            if (qstrcmp(signal.name, "nodesMoved") == 0)
                 emit service().nodesMoved(list, {1}, {0});
             else if (qstrcmp(signal.name, "modelReset") == 0)
                 emit service().modelReset();
@@ -316,13 +316,15 @@ void tst_ScriptRun::shouldHearEverySignal()
     ScriptRun run(&service(), atOnce, [&printed](const QString &text) { printed += text; });
     QCOMPARE(run.run(path()).text, QString());
     disconnect(&service(), &kxOverlayService::nameChanged, this, nullptr);
+    int node = 100;
     for (const ScriptSignal &signal : scriptSignals()) {
         const QString name = signal.name;
-        const QString lists = name == "nodesMoved"    ? " 3,1,0"
-                              : name == "modelReset"  ? " "
-                              : name == "nameChanged" ? " 2"
-                                                      : " 3";
-        QVERIFY2(printed.contains(name + lists), signal.name);
+        const QString lists = name == "nodesMoved"    ? QString("%1,1,0").arg(node)
+                              : name == "modelReset"  ? QString()
+                              : name == "nameChanged" ? QString("2")
+                                                      : QString::number(node);
+        QVERIFY2(printed.contains(name + ' ' + lists), signal.name);
+        ++node;
     }
     QCOMPARE(printed.size(), int(scriptSignals().size()));
 }
