@@ -67,6 +67,8 @@ CommandLine::CommandLine(const QStringList &arguments)
     withoutGl = parser.isSet(noGl);
     if (outcome == Outcome::Run)
         readHeadless(parser);
+    if (outcome == Outcome::Run)
+        readScripts(parser);
 }
 
 void CommandLine::addHeadlessOptions(QCommandLineParser *parser)
@@ -74,6 +76,8 @@ void CommandLine::addHeadlessOptions(QCommandLineParser *parser)
     parser->addOptions({
         {QStringLiteral("headless"), tr("Run without window and display; ask nothing.")},
         {QStringLiteral("scene"), tr("Open this scene."), tr("file")},
+        {QStringLiteral("script"), tr("Run this script once the scene is open."), tr("file")},
+        {QStringLiteral("record"), tr("Record what is done to the scene as a script."), tr("file")},
         {QStringLiteral("save"), tr("Headless: save the scene."), tr("file")},
         {QStringLiteral("export"), tr("Headless: save a picture of the view."), tr("file")},
         {QStringLiteral("size"), tr("Size of the exported picture; 1920x1080 unless given."),
@@ -89,10 +93,12 @@ QString CommandLine::exitCodes()
     return tr("\nA headless run returns:\n"
               "  0  all was done\n"
               "  2  the arguments are wrong\n"
-              "  3  done, but a picture of the scene cannot be read; a placeholder was drawn\n"
+              "  3  done, but an image that is shown cannot be read; a placeholder was drawn\n"
               "  4  the scene cannot be read\n"
               "  5  the scene or the picture cannot be written\n"
-              "  6  a module cannot be loaded\n");
+              "  6  a module cannot be loaded\n"
+              "  7  the script cannot be read, or failed; nothing was written\n"
+              "  8  the script was interrupted; nothing was written\n");
 }
 
 void CommandLine::readHeadless(const QCommandLineParser &parser)
@@ -118,6 +124,19 @@ void CommandLine::readHeadless(const QCommandLineParser &parser)
         readSize(parser.value(QStringLiteral("size")));
     if (parser.isSet(QStringLiteral("dpi")))
         readDpi(parser.value(QStringLiteral("dpi")));
+}
+
+void CommandLine::readScripts(const QCommandLineParser &parser)
+{
+    script = parser.value(QStringLiteral("script"));
+    record = parser.value(QStringLiteral("record"));
+    for (const char *option : {"script", "record"}) {
+        const QString name = QString::fromLatin1(option);
+        if (parser.isSet(name) && parser.value(name).isEmpty())
+            fail(tr("The option --%1 needs a value.").arg(name));
+    }
+    if (headless.isOn && !record.isEmpty())
+        fail(tr("The option --record needs a window: a run without one has nobody to record."));
 }
 
 void CommandLine::readSize(const QString &given)

@@ -43,6 +43,8 @@ public:
     QString text;
     QString scene;       ///< empty: start without a scene
     QStringList plugins; ///< in the order of loading, at least one
+    QString script;      ///< to run once the scene is open; empty: none
+    QString record;      ///< file to record a session in; empty: not recorded
     QString screenshot;  ///< empty: run until the user quits
     bool withoutGl = false;
     Headless headless;
@@ -51,6 +53,7 @@ private:
     static void addHeadlessOptions(QCommandLineParser *parser);
     static QString exitCodes();
     void readHeadless(const QCommandLineParser &parser);
+    void readScripts(const QCommandLineParser &parser);
     void readSize(const QString &given);
     void readDpi(const QString &given);
     void fail(const QString &reason);

@@ -4,16 +4,19 @@
 #include "viewer/app/HeadlessRun.h"
 
 #include "viewer/app/Backdrop.h"
+#include "viewer/app/InterruptWatch.h"
 #include "viewer/app/ModuleLoader.h"
+#include "viewer/app/ProgressReport.h"
 #include "viewer/scene/SceneReader.h"
 #include "viewer/scene/SceneWriter.h"
+#include "viewer/script/ScriptRun.h"
 
 #include <QDir>
+#include <QImageReader>
 #include <QImageWriter>
+#include <QMap>
 #include <QPainter>
-#include <QSet>
 
-#include <algorithm>
 #include <cstdio>
 
 namespace viewer {
@@ -38,14 +41,14 @@ HeadlessRun::HeadlessRun(const CommandLine &line) : m_line(line) {}
 HeadlessRun::ExitCode HeadlessRun::run()
 {
     using Part = ExitCode (HeadlessRun::*)();
-    const Part parts[] = {&HeadlessRun::loadModules, &HeadlessRun::openScene, &HeadlessRun::save,
-                          &HeadlessRun::exportPicture};
+    const Part parts[] = {&HeadlessRun::loadModules, &HeadlessRun::openScene,
+                          &HeadlessRun::runScript, &HeadlessRun::save, &HeadlessRun::exportPicture};
     for (const Part part : parts) {
         const ExitCode code = (this->*part)();
         if (code != Done)
             return code;
     }
-    return reportUnreadablePictures();
+    return reportUnreadableImages();
 }
 
 QImage HeadlessRun::picture()
@@ -80,6 +83,8 @@ HeadlessRun::ExitCode HeadlessRun::openScene()
 {
     Scene scene;
     if (!m_line.scene.isEmpty()) {
+        const ProgressReport progress(tr("Still opening \"%1\" after %2 s."), m_line.scene);
+        overlays()->setImageFolder(QFileInfo(m_line.scene).absolutePath());
         SceneReading reading = SceneReader::read(m_line.scene);
         if (!reading.scene) {
             tell(reading.error);
@@ -93,10 +98,30 @@ HeadlessRun::ExitCode HeadlessRun::openScene()
     return Done;
 }
 
+HeadlessRun::ExitCode HeadlessRun::runScript()
+{
+    if (m_line.script.isEmpty())
+        return Done;
+    const ProgressReport progress(tr("Still running \"%1\" after %2 s."), m_line.script);
+    const auto print = [](const QString &text) {
+        std::fprintf(stdout, "%s\n", qPrintable(text));
+        std::fflush(stdout);
+    };
+    ScriptRun script(
+        overlays(), [](const std::function<void()> &work) { work(); }, print);
+    const InterruptWatch watch([&script] { script.interrupt(); });
+    const ScriptOutcome outcome = script.run(m_line.script);
+    if (outcome.end == ScriptOutcome::End::Done)
+        return Done;
+    tell(outcome.text);
+    return outcome.end == ScriptOutcome::End::Interrupted ? Interrupted : ScriptFailed;
+}
+
 HeadlessRun::ExitCode HeadlessRun::save()
 {
     if (m_line.headless.save.isEmpty())
         return Done;
+    const ProgressReport progress(tr("Still saving \"%1\" after %2 s."), m_line.headless.save);
     const SceneWriting writing = SceneWriter::write(overlays()->scene(), m_line.headless.save);
     tell(writing.warnings);
     if (writing.isWritten())
@@ -110,6 +135,7 @@ HeadlessRun::ExitCode HeadlessRun::exportPicture()
     const QString file = m_line.headless.picture;
     if (file.isEmpty())
         return Done;
+    const ProgressReport progress(tr("Still drawing \"%1\" after %2 s."), file);
     const QImage image = picture();
     QImageWriter writer(file);
     if (!image.isNull() && writer.write(image))
@@ -120,21 +146,36 @@ HeadlessRun::ExitCode HeadlessRun::exportPicture()
     return NotWritten;
 }
 
-HeadlessRun::ExitCode HeadlessRun::reportUnreadablePictures()
+/// The files that cannot be read, and whether an overlay shows them.
+QMap<QString, bool> HeadlessRun::unreadableImages()
 {
-    QSet<QString> unreadable;
-    overlays()->scene().forEach([this, &unreadable](const Node &node) {
+    const Scene &scene = overlays()->scene();
+    QMap<QString, bool> files;
+    scene.forEach([this, &scene, &files](const Node &node) {
         const QString &path = node.overlay.image;
-        const bool showsPicture = node.isOverlay() && !node.overlay.isText() && !path.isEmpty();
-        if (showsPicture && m_images.image(path).isNull())
-            unreadable.insert(path);
+        if (!node.isOverlay() || node.overlay.isText() || path.isEmpty())
+            return;
+        // What is not shown was not read, and need not be for that.
+        const bool isShown = scene.isActive(node.id);
+        const bool isReadable = isShown ? !m_images.image(path).isNull()
+                                        : QFileInfo(path).isFile() && QImageReader(path).canRead();
+        if (!isReadable)
+            files[path] |= isShown;
     });
-    QStringList files = unreadable.values();
-    std::sort(files.begin(), files.end());
-    for (const QString &file : qAsConst(files))
-        tell(tr("Warning: the picture \"%1\" cannot be read; a placeholder stands for it.")
-                 .arg(QDir::toNativeSeparators(file)));
-    return files.isEmpty() ? Done : PictureMissing;
+    return files;
+}
+
+HeadlessRun::ExitCode HeadlessRun::reportUnreadableImages()
+{
+    const QMap<QString, bool> files = unreadableImages();
+    for (auto file = files.begin(); file != files.end(); ++file) {
+        const QString shown = QDir::toNativeSeparators(file.key());
+        tell(*file ? tr("Warning: the image \"%1\" cannot be read; a placeholder stands for it.")
+                         .arg(shown)
+                   : tr("Warning: the image \"%1\" cannot be read, but is not shown either.")
+                         .arg(shown));
+    }
+    return files.values().contains(true) ? ImageMissing : Done;
 }
 
 } // namespace viewer

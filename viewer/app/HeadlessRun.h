@@ -22,16 +22,18 @@ public:
     enum ExitCode {
         Done = 0,
         BadArguments = 2,
-        PictureMissing = 3,
+        ImageMissing = 3,
         SceneUnreadable = 4,
         NotWritten = 5,
         ModuleFailed = 6,
+        ScriptFailed = 7,
+        Interrupted = 8,
     };
 
     explicit HeadlessRun(const CommandLine &line);
 
-    /// Does all that was asked for. The first failure ends it, but for pictures that cannot be read:
-    /// the output is written with placeholders.
+    /// Does all that was asked for. The first failure ends it, but for images that cannot be read: the
+    /// output is written with placeholders.
     ExitCode run();
 
     /// The view in the size and density of the command line: the painted backdrop, or nothing, and
@@ -43,9 +45,11 @@ public:
 private:
     ExitCode loadModules();
     ExitCode openScene();
+    ExitCode runScript();
     ExitCode save();
     ExitCode exportPicture();
-    ExitCode reportUnreadablePictures();
+    ExitCode reportUnreadableImages();
+    QMap<QString, bool> unreadableImages();
 
     const CommandLine m_line;
     HostServices m_services{nullptr};

@@ -97,8 +97,9 @@ bool SceneDocument::load(const QString &file)
     setPath(path);
     remember(path);
     emit opened(path);
-    if (!reading.warnings.isEmpty())
-        emit reported(Severity::Warning, summary(reading.warnings));
+    const QStringList warnings = reading.warnings + reading.missingImages;
+    if (!warnings.isEmpty())
+        emit reported(Severity::Warning, summary(warnings));
     return true;
 }
 

@@ -35,6 +35,7 @@ public:
 
     Scene scene;
     QStringList warnings; // each begins with its place
+    QStringList missingImages;
 
 private:
     /// One level that is being read: the list of nodes, the next one, and where they go.
@@ -49,11 +50,11 @@ private:
     void readNode(const Json &object, NodeId parent);
     void readOverlay(JsonRecord &record, Overlay *overlay);
     QString readImagePath(JsonRecord &record);
-    void warn(const QString &text);
+    void warn(QStringList *list, const QString &text) const;
 
     QDir m_folder;
     std::vector<Level> m_levels;
-    QSet<QString> m_missingImages;
+    QSet<QString> m_missingFiles;
 };
 
 void SceneBuilder::build(const Json &document)
@@ -133,7 +134,8 @@ void SceneBuilder::readNode(const Json &object, NodeId parent)
     const QString name = node.name;
     const NodeId id = scene.add(std::move(node));
     if (!scene.append(parent, id).isEmpty())
-        warn(tr("\"%1\" is disabled, because its switch has another enabled child before it")
+        warn(&warnings,
+             tr("\"%1\" is disabled, because its switch has another enabled child before it")
                  .arg(name));
     if (children)
         m_levels.push_back({children, 0, id});
@@ -161,16 +163,17 @@ QString SceneBuilder::readImagePath(JsonRecord &record)
     if (written.isEmpty())
         return written;
     const QString path = QDir::cleanPath(m_folder.absoluteFilePath(written));
-    if (!m_missingImages.contains(path) && !QFileInfo(path).isFile()) {
-        m_missingImages.insert(path);
-        warn(tr("the image file %1 is missing").arg(QDir::toNativeSeparators(path)));
+    if (!m_missingFiles.contains(path) && !QFileInfo(path).isFile()) {
+        m_missingFiles.insert(path);
+        warn(&missingImages,
+             tr("the image file %1 is missing").arg(QDir::toNativeSeparators(path)));
     }
     return path;
 }
 
-void SceneBuilder::warn(const QString &text)
+void SceneBuilder::warn(QStringList *list, const QString &text) const
 {
-    warnings.append(place() + QLatin1String(": ") + text);
+    list->append(place() + QLatin1String(": ") + text);
 }
 
 /// Bytes are counted from 1, as editors and the parser do.
@@ -251,8 +254,11 @@ SceneReading SceneReader::parse(const QByteArray &content, const QString &path)
     }
     SceneReading reading;
     reading.scene = std::move(builder.scene);
+    const QString file = QDir::toNativeSeparators(path) + QLatin1String(": ");
     for (const QString &warning : qAsConst(builder.warnings))
-        reading.warnings.append(QDir::toNativeSeparators(path) + QLatin1String(": ") + warning);
+        reading.warnings.append(file + warning);
+    for (const QString &warning : qAsConst(builder.missingImages))
+        reading.missingImages.append(file + warning);
     return reading;
 }
 

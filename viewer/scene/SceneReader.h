@@ -19,6 +19,7 @@ struct SceneReading
     std::optional<Scene> scene;
     QString error;
     QStringList warnings;
+    QStringList missingImages; ///< warnings of files that are not there
 };
 
 /// Reads scene files. It holds nothing and touches no open scene: the caller hands the scene on to

@@ -10,6 +10,8 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <csignal>
+
 using viewer::HeadlessRun;
 
 /// Runs without window: the built program for what it returns and writes, the class for pixels.
@@ -19,7 +21,16 @@ class tst_HeadlessRun : public KxTest
 
 private Q_SLOTS:
     void shouldWriteSceneAndPictureWithoutADisplay();
-    void shouldWriteThePictureAndWarnWhenAnImageIsMissing();
+    void shouldWriteThePictureAndWarnOnceOfAMissingImage();
+    void shouldNotFailForAnImageThatIsNotShown_data();
+    void shouldNotFailForAnImageThatIsNotShown();
+    void shouldLoadTheEditorInItsHeadlessMode();
+    void shouldRunAScriptBetweenOpeningAndSaving();
+    void shouldTakeImagesFromTheFolderOfTheScene();
+    void shouldWriteNothingWhenTheScriptFails();
+    void shouldEndAnEndlessScriptWhenAsked_data();
+    void shouldEndAnEndlessScriptWhenAsked();
+    void shouldTellThatLongWorkGoesOn();
     void shouldLeaveTheBackdropOutWhenTransparent();
     void shouldReturnTheDocumentedCode_data();
     void shouldReturnTheDocumentedCode();
@@ -28,9 +39,14 @@ private Q_SLOTS:
 private:
     QString path(const char *name) const { return m_folder.filePath(QLatin1String(name)); }
     void writeScene(const QByteArray &overlays);
+    void write(const char *name, const QByteArray &content);
+    QByteArray contentOf(const char *name) const;
     int run(const QStringList &arguments);
+    void start(QProcess *program, const QStringList &arguments);
+    int finish(QProcess *program);
 
     QTemporaryDir m_folder;
+    QString m_output;
     QString m_errors;
 };
 
@@ -41,17 +57,42 @@ void tst_HeadlessRun::writeScene(const QByteArray &overlays)
     file.write(R"({"format": "overlay-scene", "version": 1, "overlays": [)" + overlays + "]}");
 }
 
-int tst_HeadlessRun::run(const QStringList &arguments)
+void tst_HeadlessRun::write(const char *name, const QByteArray &content)
+{
+    QFile file(path(name));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+QByteArray tst_HeadlessRun::contentOf(const char *name) const
+{
+    QFile file(path(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void tst_HeadlessRun::start(QProcess *program, const QStringList &arguments)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("QT_QPA_PLATFORM", "xcb");
     environment.remove("DISPLAY");
+    program->setProcessEnvironment(environment);
+    program->start(PROGRAM, QStringList("--headless") + arguments);
+}
+
+int tst_HeadlessRun::finish(QProcess *program)
+{
+    const bool ended = program->waitForFinished(60000);
+    m_errors = QString::fromUtf8(program->readAllStandardError());
+    m_output += QString::fromUtf8(program->readAllStandardOutput());
+    return ended && program->exitStatus() == QProcess::NormalExit ? program->exitCode() : -1;
+}
+
+int tst_HeadlessRun::run(const QStringList &arguments)
+{
     QProcess program;
-    program.setProcessEnvironment(environment);
-    program.start(PROGRAM, QStringList("--headless") + arguments);
-    const bool ended = program.waitForFinished(60000);
-    m_errors = QString::fromUtf8(program.readAllStandardError());
-    return ended && program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
+    m_output.clear();
+    start(&program, arguments);
+    return finish(&program);
 }
 
 void tst_HeadlessRun::shouldWriteSceneAndPictureWithoutADisplay()
@@ -66,12 +107,110 @@ void tst_HeadlessRun::shouldWriteSceneAndPictureWithoutADisplay()
     QVERIFY(QFile::exists(path("b.json")));
 }
 
-void tst_HeadlessRun::shouldWriteThePictureAndWarnWhenAnImageIsMissing()
+void tst_HeadlessRun::shouldWriteThePictureAndWarnOnceOfAMissingImage()
 {
-    writeScene(R"({"kind": "overlay", "name": "Logo", "type": "image", "image": "gone.png"})");
+    write("bytes.png", "no picture");
+    writeScene(R"({"kind": "overlay", "name": "Logo", "type": "image", "image": "gone.png"},)"
+               R"({"kind": "overlay", "enabled": false, "type": "image", "image": "gone.png"},)"
+               R"({"kind": "overlay", "type": "image", "image": "bytes.png"})");
     QCOMPARE(run({path("a.json"), "--export", path("missing.png")}), 3);
-    QVERIFY2(m_errors.contains("gone.png"), qPrintable(m_errors));
+    const QString warning =
+        "Warning: the image \"%1\" cannot be read; a placeholder stands for it.\n";
+    QCOMPARE(m_errors, warning.arg(path("bytes.png")) + warning.arg(path("gone.png")));
     QCOMPARE(QImage(path("missing.png")).size(), QSize(1920, 1080));
+}
+
+void tst_HeadlessRun::shouldNotFailForAnImageThatIsNotShown_data()
+{
+    QTest::addColumn<QByteArray>("overlays");
+    QTest::newRow("switched off") << QByteArray(
+        R"({"kind": "overlay", "enabled": false, "type": "image", "image": "gone.png"})");
+    QTest::newRow("in a group that is switched off")
+        << QByteArray(R"({"kind": "group", "enabled": false, "children": [)"
+                      R"({"kind": "overlay", "type": "image", "image": "gone.png"}]})");
+}
+
+void tst_HeadlessRun::shouldNotFailForAnImageThatIsNotShown()
+{
+    QFETCH(QByteArray, overlays);
+    writeScene(overlays);
+    QCOMPARE(run({path("a.json")}), 0);
+    QCOMPARE(m_errors,
+             QString("Warning: the image \"%1\" cannot be read, but is not shown either.\n")
+                 .arg(path("gone.png")));
+}
+
+void tst_HeadlessRun::shouldLoadTheEditorInItsHeadlessMode()
+{
+    writeScene("");
+    QCOMPARE(run({path("a.json"), "--plugin", PLUGIN_PROBE}), 0);
+    QCOMPARE(m_errors, QString("headless 1, trees 0, windows 0\n"));
+    QCOMPARE(run({path("a.json"), "--plugin", PLUGIN_EDITOR, "--plugin", PLUGIN_PROBE}), 0);
+    QCOMPARE(m_errors, QString("headless 1, trees 1, windows 0\n"));
+}
+
+void tst_HeadlessRun::shouldRunAScriptBetweenOpeningAndSaving()
+{
+    writeScene(R"({"kind": "overlay", "name": "Title", "type": "text", "text": "old"})");
+    write("s.js", "print('was', overlays.getText(2)); overlays.setText([2], 'new text')");
+    QCOMPARE(run({path("a.json"), "--script", path("s.js"), "--save", path("b.json")}), 0);
+    QCOMPARE(m_output, QString("was old\n"));
+    QCOMPARE(m_errors, QString());
+    QVERIFY(contentOf("b.json").contains("new text"));
+    QVERIFY(contentOf("a.json").contains("old"));
+}
+
+void tst_HeadlessRun::shouldTakeImagesFromTheFolderOfTheScene()
+{
+    writeScene(R"({"kind": "overlay", "name": "Logo", "type": "image"})");
+    QVERIFY(QImage(4, 4, QImage::Format_RGB32).save(path("logo.png")));
+    write("s.js", "overlays.setImage([2], 'logo.png')");
+    QCOMPARE(run({path("a.json"), "--script", path("s.js"), "--save", path("b.json")}), 0);
+    QVERIFY(contentOf("b.json").contains("\"image\": \"logo.png\""));
+}
+
+void tst_HeadlessRun::shouldWriteNothingWhenTheScriptFails()
+{
+    writeScene("");
+    write("s.js", "overlays.createOverlay(1);\nnonsense()");
+    QCOMPARE(run({path("a.json"), "--script", path("s.js"), "--save", path("c.json"), "--export",
+                  path("c.png")}),
+             7);
+    QCOMPARE(m_errors, path("s.js") + ":2: ReferenceError: nonsense is not defined\n");
+    QVERIFY(!QFile::exists(path("c.json")));
+    QVERIFY(!QFile::exists(path("c.png")));
+}
+
+void tst_HeadlessRun::shouldEndAnEndlessScriptWhenAsked_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::newRow("Ctrl+C") << SIGINT;
+    QTest::newRow("kill") << SIGTERM;
+}
+
+void tst_HeadlessRun::shouldEndAnEndlessScriptWhenAsked()
+{
+    QFETCH(int, signal);
+    writeScene("");
+    write("s.js", "print('begun'); while (true);");
+    QProcess program;
+    m_output.clear();
+    start(&program, {path("a.json"), "--script", path("s.js"), "--save", path("d.json")});
+    while (!m_output.contains("begun") && program.waitForReadyRead(60000))
+        m_output += QString::fromUtf8(program.readAllStandardOutput());
+    QCOMPARE(::kill(pid_t(program.processId()), signal), 0);
+    QCOMPARE(finish(&program), 8);
+    QCOMPARE(m_errors, QString("The script \"%1\" was interrupted.\n").arg(path("s.js")));
+    QVERIFY(!QFile::exists(path("d.json")));
+}
+
+void tst_HeadlessRun::shouldTellThatLongWorkGoesOn()
+{
+    writeScene("");
+    write("s.js", "const end = Date.now() + 2500; while (Date.now() < end);");
+    QCOMPARE(run({path("a.json"), "--script", path("s.js")}), 0);
+    QCOMPARE(m_output, QString());
+    QCOMPARE(m_errors, QString("Still running \"%1\" after 2 s.\n").arg(path("s.js")));
 }
 
 void tst_HeadlessRun::shouldLeaveTheBackdropOutWhenTransparent()
@@ -92,6 +231,8 @@ void tst_HeadlessRun::shouldReturnTheDocumentedCode_data()
     QTest::newRow("save") << QStringList{"--save", nowhere} << 5;
     QTest::newRow("export") << QStringList{"--export", nowhere + ".png"} << 5;
     QTest::newRow("module") << QStringList{"--plugin", nowhere} << 6;
+    QTest::newRow("script") << QStringList{"--script", nowhere} << 7;
+    QTest::newRow("record") << QStringList{"--record", path("r.js")} << 2;
 }
 
 void tst_HeadlessRun::shouldReturnTheDocumentedCode()

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "viewer/app/InterruptWatch.h"
+
+#include <cerrno>
+#include <csignal>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace viewer {
+
+namespace {
+
+constexpr char Signalled = 's';
+constexpr char Over = 'o';
+constexpr int Signals[] = {SIGINT, SIGTERM};
+
+// A handler may do next to nothing, so it wakes a thread through a pipe.
+int s_pipe[2] = {-1, -1};
+struct sigaction s_before[2];
+
+void wake(char what)
+{
+    while (::write(s_pipe[1], &what, 1) < 0 && errno == EINTR) {
+    }
+}
+
+extern "C" void handleSignal(int)
+{
+    const int error = errno;
+    wake(Signalled);
+    errno = error;
+}
+
+} // namespace
+
+InterruptWatch::InterruptWatch(std::function<void()> interrupt) : m_interrupt(std::move(interrupt))
+{
+    if (::pipe2(s_pipe, O_CLOEXEC) != 0)
+        return; // signals end the process then
+    m_thread = std::thread([this, pipe = s_pipe[0]] { watch(pipe); });
+    struct sigaction action = {};
+    action.sa_handler = handleSignal;
+    action.sa_flags = int(SA_RESETHAND | SA_RESTART);
+    for (int i = 0; i < 2; ++i)
+        ::sigaction(Signals[i], &action, &s_before[i]);
+}
+
+InterruptWatch::~InterruptWatch()
+{
+    if (!m_thread.joinable())
+        return;
+    for (int i = 0; i < 2; ++i)
+        ::sigaction(Signals[i], &s_before[i], nullptr);
+    wake(Over);
+    m_thread.join();
+    ::close(s_pipe[0]);
+    ::close(s_pipe[1]);
+}
+
+void InterruptWatch::watch(int pipe) const
+{
+    char what = 0;
+    while (what != Over) {
+        if (::read(pipe, &what, 1) < 0 && errno != EINTR)
+            return;
+        if (what == Signalled)
+            m_interrupt();
+    }
+}
+
+} // namespace viewer
