@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "host/kxStyle.h"
+#include "hostlib/kxStyleColors.h"
 #include "tests/support/KxTest.h"
+#include "tests/support/contrast.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -152,29 +154,13 @@ int countOf(const QImage &image, const QColor &color)
     return count;
 }
 
-double luminance(const QColor &color)
-{
-    const auto linear = [](double c) {
-        return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
-           + 0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor &a, const QColor &b)
-{
-    const double la = luminance(a) + 0.05;
-    const double lb = luminance(b) + 0.05;
-    return qMax(la, lb) / qMin(la, lb);
-}
-
 /// The greatest contrast of any pixel with the control's ground.
 double strongest(const QImage &image, const QColor &ground)
 {
     double most = 1;
     for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x)
-            most = qMax(most, contrast(image.pixelColor(x, y), ground));
+            most = qMax(most, contrast::between(image.pixelColor(x, y), ground));
     return most;
 }
 
@@ -224,8 +210,8 @@ void tst_kxStyle::shouldMakeTheApplicationDark()
 {
     const QPalette palette = QApplication::palette();
     QCOMPARE(palette.color(QPalette::Window), kxStyle().standardPalette().color(QPalette::Window));
-    QVERIFY(luminance(palette.color(QPalette::Window)) < 0.05);
-    QVERIFY(luminance(palette.color(QPalette::Base)) < 0.05);
+    QVERIFY(contrast::luminance(palette.color(QPalette::Window)) < 0.05);
+    QVERIFY(contrast::luminance(palette.color(QPalette::Base)) < 0.05);
 }
 
 void tst_kxStyle::shouldKeepTextReadable_data()
@@ -259,6 +245,10 @@ void tst_kxStyle::shouldKeepTextReadable_data()
     row("inactive name on alternate row", inactive, active, QPalette::AlternateBase, 3);
     row("inactive name on selected row", inactive, active, QPalette::Highlight, 3);
     row("inactive name on unfocused row", inactive, unfocused, QPalette::Highlight, 3);
+    const QColor disabled = p.color(QPalette::Disabled, QPalette::Text);
+    row("step that was undone", disabled, active, QPalette::Base, 3);
+    QTest::newRow("mixed value") << QColor(kxStyleColors::mixedText)
+                                 << QColor(kxStyleColors::mixedGround) << 4.5;
     row("accent on window", kxStyle::getAccentColor(), active, QPalette::Window, 3);
     row("mixed edge on window", kxStyle::getMixedColor(), active, QPalette::Window, 3);
     QTest::newRow("inactive against active name") << inactive << QColor(Qt::white) << 2.0;
@@ -269,7 +259,7 @@ void tst_kxStyle::shouldKeepTextReadable()
     QFETCH(QColor, text);
     QFETCH(QColor, ground);
     QFETCH(double, least);
-    const double found = contrast(text, ground);
+    const double found = contrast::between(text, ground);
     QVERIFY2(found >= least, qPrintable(QString::number(found)));
 }
 
