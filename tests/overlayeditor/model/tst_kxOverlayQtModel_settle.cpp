@@ -31,6 +31,7 @@ private Q_SLOTS:
     void shouldMendACopyWhoseRowHasShifted();
     void shouldSkipACopyThatTheOneBeforeTakesIn();
     void shouldSkipAParentThatTheOneBeforeLoses();
+    void shouldNotFreeWhatACallerTakesAfterwards();
     void shouldKeepATreeThatWasNeverReset();
     void shouldTellWhichNodesWereDropped();
     void shouldForgetRowsThatAreGone();
@@ -342,6 +343,20 @@ void tst_kxOverlayQtModel_settle::shouldSkipAParentThatTheOneBeforeLoses()
     model().settle(trace);
     KX_COMPARE_TREE(model(), service());
     QCOMPARE(shown(), QString("a3 n4"));
+}
+
+/// A row that the service moved during the drag is fetched from where it stood; it is the tree's from
+/// then on, and nothing that was taken out and forgotten.
+void tst_kxOverlayQtModel_settle::shouldNotFreeWhatACallerTakesAfterwards()
+{
+    fill("g2() h3(a4) b5");
+    m_duringDrag = [this] { service().build("g2(a4) h3() b5"); };
+    dragAndDrop({5}, 2, -1);
+    KX_COMPARE_TREE(model(), service());
+    item(4)->appendRow(new CountingItem);
+    const std::unique_ptr<QStandardItem> taken(item(2)->takeRow(0).constFirst());
+    Q_EMIT service().modelReset();
+    QCOMPARE(CountingItem::s_alive, 1);
 }
 
 void tst_kxOverlayQtModel_settle::shouldKeepATreeThatWasNeverReset()

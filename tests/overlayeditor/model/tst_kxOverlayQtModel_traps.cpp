@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: the Overlay Editor authors
 // SPDX-License-Identifier: MIT
 
+#include "overlayeditor/model/kxOverlayItem.h"
 #include "tests/overlayeditor/model/ModelTest.h"
 
 #include <QItemSelectionModel>
@@ -36,7 +37,12 @@ private Q_SLOTS:
     void shouldReceiveSignalsOfOtherThreads();
     void shouldFreeDetachedItemsWithTheNextReset();
     void shouldFreeDetachedItemsWithTheModel();
+    void shouldFreeWhatAMoveMadeAndCouldNotPlace_data();
+    void shouldFreeWhatAMoveMadeAndCouldNotPlace();
     void shouldNotFreeADetachedItemThatCameBack();
+    void shouldNotFreeWhatACallerTookAfterItCameBack_data();
+    void shouldNotFreeWhatACallerTookAfterItCameBack();
+    void shouldTakeLeaveOfNoRowWithoutANode();
 };
 
 void tst_kxOverlayQtModel_traps::shouldShowOneRowForANodeAnnouncedTwice_data()
@@ -319,6 +325,28 @@ void tst_kxOverlayQtModel_traps::shouldFreeDetachedItemsWithTheModel()
     QCOMPARE(CountingItem::s_alive, 0);
 }
 
+void tst_kxOverlayQtModel_traps::shouldFreeWhatAMoveMadeAndCouldNotPlace_data()
+{
+    QTest::addColumn<QRPC::NodeId>("parent");
+    QTest::addColumn<QRPC::NodeId>("after");
+    QTest::newRow("an unknown parent") << 99U << 0U;
+    QTest::newRow("behind a row of another parent") << 1U << 5U;
+}
+
+void tst_kxOverlayQtModel_traps::shouldFreeWhatAMoveMadeAndCouldNotPlace()
+{
+    QFETCH(QRPC::NodeId, parent);
+    QFETCH(QRPC::NodeId, after);
+    fill("g2(b5) a3");
+    item(3)->appendRow(new CountingItem);
+    service().build("g2(b5) h4(a3)");
+    Q_EMIT service().nodesMoved({4}, {parent}, {after});
+    QCOMPARE(shown(), QString("g2(b5)"));
+    QCOMPARE(CountingItem::s_alive, 1);
+    Q_EMIT service().modelReset();
+    QCOMPARE(CountingItem::s_alive, 0);
+}
+
 void tst_kxOverlayQtModel_traps::shouldNotFreeADetachedItemThatCameBack()
 {
     fill("g2() a3");
@@ -332,6 +360,44 @@ void tst_kxOverlayQtModel_traps::shouldNotFreeADetachedItemThatCameBack()
     QCOMPARE(CountingItem::s_alive, 1);
     Q_EMIT service().modelReset();
     QCOMPARE(CountingItem::s_alive, 0);
+}
+
+void tst_kxOverlayQtModel_traps::shouldNotFreeWhatACallerTookAfterItCameBack_data()
+{
+    QTest::addColumn<QString>("tree");
+    QTest::addColumn<QRPC::NodeList>("nodes");
+    QTest::addColumn<QRPC::NodeList>("parents");
+    QTest::newRow("by a move") << "g2() a3" << QRPC::NodeList{2, 3} << QRPC::NodeList{1, 2};
+    QTest::newRow("in a new group") << "g2(a3)" << QRPC::NodeList{2} << QRPC::NodeList{1};
+}
+
+void tst_kxOverlayQtModel_traps::shouldNotFreeWhatACallerTookAfterItCameBack()
+{
+    QFETCH(QString, tree);
+    QFETCH(QRPC::NodeList, nodes);
+    QFETCH(QRPC::NodeList, parents);
+    fill("a3");
+    item(3)->appendRow(new CountingItem);
+    Q_EMIT service().nodesRemoved({3});
+    service().build(tree);
+    Q_EMIT service().nodesMoved(nodes, parents, {0, 0});
+    QVERIFY(item(3)->parent());
+    const std::unique_ptr<QStandardItem> taken(item(3)->parent()->takeRow(0).constFirst());
+    Q_EMIT service().modelReset();
+    QCOMPARE(CountingItem::s_alive, 1);
+}
+
+void tst_kxOverlayQtModel_traps::shouldTakeLeaveOfNoRowWithoutANode()
+{
+    fill("a2 b3");
+    item(2)->setData(QVariant(), kxOverlayItem::NodeIdRole);
+    QVector<int> leaving;
+    connect(&model(), &kxOverlayQtModel::nodesAboutToGo, this,
+            [&leaving](const QModelIndexList &rows) { leaving.append(rows.size()); });
+    Q_EMIT service().nodesRemoved({0});
+    QCOMPARE(leaving, QVector<int>{0});
+    Q_EMIT service().nodesRemoved({3});
+    QCOMPARE(leaving, (QVector<int>{0, 1}));
 }
 
 KX_TEST_MAIN(tst_kxOverlayQtModel_traps)
