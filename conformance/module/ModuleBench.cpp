@@ -54,6 +54,8 @@ void ModuleBench::reset()
     shown.hide();
     qobject_cast<QLineEdit *>(&searchBox())->clear();
     open(QString());
+    // Editors of names, for one.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 QMainWindow &ModuleBench::window()

@@ -20,7 +20,6 @@ ModuleChecks treeChecks();
 ModuleChecks itemChecks();
 ModuleChecks selectionChecks();
 ModuleChecks commandChecks();
-ModuleChecks menuChecks();
 ModuleChecks keyChecks();
 ModuleChecks searchChecks();
 ModuleChecks panelChecks();

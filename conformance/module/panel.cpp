@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "conformance/module/moduleChecks.h"
+#include "host/QKXSlider.h"
+#include "host/QKXTextureControls.h"
+
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QPlainTextEdit>
+#include <QRadioButton>
+
+namespace conformance {
+
+namespace {
+
+QStringList anchors(ModuleBench &bench)
+{
+    const auto &box = bench.form<QComboBox>("_position_combo_box");
+    QStringList lines;
+    for (int i = 0; i < box.count(); ++i) {
+        const QVariant data = box.itemData(i, Qt::UserRole);
+        const QPointF point = data.toPointF();
+        lines.append(QStringLiteral("%1 %2 %3").arg(box.itemText(i)).arg(point.x()).arg(point.y()));
+        expectEqual("type of the data", int(data.type()), int(QVariant::PointF));
+        expect("no icon", box.itemIcon(i).isNull());
+    }
+    return lines;
+}
+
+void expectGroup(ModuleBench &bench, const char *first, const char *second)
+{
+    auto &one = bench.form<QRadioButton>(first);
+    auto &other = bench.form<QRadioButton>(second);
+    expect("one group holds both", one.group() && one.group() == other.group());
+    expectEqual("id of the first", one.group()->id(&one), 0);
+    expectEqual("id of the second", one.group()->id(&other), 1);
+    expectEqual("number of buttons", one.group()->buttons().size(), 2);
+    expect("the editor owns the group", one.group()->parent() == &bench.editor());
+}
+
+} // namespace
+
+// One table, long as it has an entry for each check.
+ModuleChecks panelChecks() // NOLINT(readability-function-size)
+{
+    return {
+        {"panel.typeGroup", "The buttons Text and Image are one group with the ids 0 and 1.",
+         [](ModuleBench &bench) {
+             expectGroup(bench, "_text_radio_button", "_image_radio_button");
+         }},
+        {"panel.sizeTypeGroup",
+         "The buttons Absolute and Relative are one group with the ids 0 and 1.",
+         [](ModuleBench &bench) {
+             expectGroup(bench, "_absolute_radio_button", "_relative_radio_button");
+             expect("it is not the group of the types",
+                    bench.form<QRadioButton>("_absolute_radio_button").group()
+                        != bench.form<QRadioButton>("_text_radio_button").group());
+         }},
+        {"panel.anchors", "The position box has these nine anchors.",
+         [](ModuleBench &bench) {
+             expectEqual("anchors", anchors(bench),
+                         QStringList({"Left 0 0.5", "Right 1 0.5", "Top 0.5 1", "Bottom 0.5 0",
+                                      "Center 0.5 0.5", "Top Left 0 1", "Top Right 1 1",
+                                      "Bottom Left 0 0", "Bottom Right 1 0"}));
+         }},
+        {"panel.tabLeavesText", "Tab leaves the text field.",
+         [](ModuleBench &bench) {
+             expect("tab changes the focus",
+                    bench.form<QPlainTextEdit>("_text_edit").tabChangesFocus());
+         }},
+        {"panel.offsetRange", "Offsets reach from -2147483647 to 2147483647.",
+         [](ModuleBench &bench) {
+             for (const char *name : {"_offset_x_spin_box", "_offset_y_spin_box"}) {
+                 const auto &box = bench.form<QDoubleSpinBox>(name);
+                 expectEqual(name, box.minimum(), -2147483647.0);
+                 expectEqual(name, box.maximum(), 2147483647.0);
+             }
+         }},
+        {"panel.sizeAtStart",
+         "Before the first selection the size slider ends at 200 and shows px.",
+         [](ModuleBench &bench) {
+             bench.callEntry();
+             auto &slider = bench.form<QKXSlider>("_size_slider");
+             const auto *field = slider.findChild<QDoubleSpinBox *>();
+             expect("the slider has a field", field != nullptr);
+             expectEqual("suffix", field->suffix().trimmed(), QString("px"));
+             auto *handle = slider.findChild<QAbstractSlider *>();
+             expect("the slider has a handle", handle != nullptr);
+             handle->setSliderDown(true);
+             handle->setSliderPosition(handle->maximum());
+             expectEqual("upper end", slider.value(), 200.0);
+             handle->setSliderPosition(handle->minimum());
+             expectEqual("lower end", slider.value(), 0.0);
+         },
+         Stage::Fresh},
+        {"panel.startsAsText",
+         "The image line and its label are hidden until an image is selected.",
+         [](ModuleBench &bench) {
+             bench.callEntry();
+             expect("the line is hidden", bench.form<QWidget>("_image_edit").isHidden());
+             expect("the label is hidden", bench.form<QWidget>("_image_label").isHidden());
+             expect("the text is not", !bench.form<QWidget>("_text_edit").isHidden());
+         },
+         Stage::Fresh},
+    };
+}
+
+} // namespace conformance
