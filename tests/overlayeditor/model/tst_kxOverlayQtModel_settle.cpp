@@ -33,6 +33,7 @@ private Q_SLOTS:
     void shouldSkipAParentThatTheOneBeforeLoses();
     void shouldNotFreeWhatACallerTakesAfterwards();
     void shouldKeepATreeThatWasNeverReset();
+    void shouldNameEachTouchedParentOnce();
     void shouldTellWhichNodesWereDropped();
     void shouldForgetRowsThatAreGone();
 
@@ -366,6 +367,16 @@ void tst_kxOverlayQtModel_settle::shouldKeepATreeThatWasNeverReset()
     Q_EMIT service().nodesAdded({2, 3});
     model().settle(trace);
     QCOMPARE(shown(), QString("a2 g3(b4)"));
+}
+
+void tst_kxOverlayQtModel_settle::shouldNameEachTouchedParentOnce()
+{
+    fill("g2(a3 b4) c5");
+    const kxDropTrace trace(&model());
+    Q_EMIT service().nodesRemoved({3});
+    Q_EMIT service().nodesRemoved({4});
+    Q_EMIT service().nodesRemoved({5});
+    QCOMPARE(trace.touchedParents(), (QModelIndexList{index(2), QModelIndex()}));
 }
 
 void tst_kxOverlayQtModel_settle::shouldTellWhichNodesWereDropped()
