@@ -300,26 +300,6 @@
         <translation>Ohne Hintergrund exportieren.</translation>
     </message>
     <message>
-        <source>
-A headless run returns:
-  0  all was done
-  2  the arguments are wrong
-  3  done, but a picture of the scene cannot be read; a placeholder was drawn
-  4  the scene cannot be read
-  5  the scene or the picture cannot be written
-  6  a module cannot be loaded
-</source>
-        <translation>
-Ein Lauf ohne Fenster gibt zurück:
-  0  alles wurde erledigt
-  2  die Argumente sind falsch
-  3  erledigt, aber ein Bild der Szene kann nicht gelesen werden; ein Platzhalter wurde gezeichnet
-  4  die Szene kann nicht gelesen werden
-  5  die Szene oder das Bild kann nicht geschrieben werden
-  6  ein Modul kann nicht geladen werden
-</translation>
-    </message>
-    <message>
         <source>The option --%1 needs --headless.</source>
         <translation>Die Option --%1 braucht --headless.</translation>
     </message>
@@ -350,6 +330,42 @@ Ein Lauf ohne Fenster gibt zurück:
     <message>
         <source>&quot;%1&quot; is not the name of a language: de would be one.</source>
         <translation>„%1“ ist nicht der Name einer Sprache; de wäre einer.</translation>
+    </message>
+    <message>
+        <source>Run this script once the scene is open.</source>
+        <translation>Dieses Skript ausführen, sobald die Szene geöffnet ist.</translation>
+    </message>
+    <message>
+        <source>Record what is done to the scene as a script.</source>
+        <translation>Was an der Szene getan wird, als Skript aufzeichnen.</translation>
+    </message>
+    <message>
+        <source>
+A headless run returns:
+  0  all was done
+  2  the arguments are wrong
+  3  done, but an image that is shown cannot be read; a placeholder was drawn
+  4  the scene cannot be read
+  5  the scene or the picture cannot be written
+  6  a module cannot be loaded
+  7  the script cannot be read, or failed; nothing was written
+  8  the script was interrupted; nothing was written
+</source>
+        <translation>
+Ein Lauf ohne Fenster gibt zurück:
+  0  alles wurde erledigt
+  2  die Argumente sind falsch
+  3  erledigt, aber ein Bild, das gezeigt wird, kann nicht gelesen werden; ein Platzhalter wurde gezeichnet
+  4  die Szene kann nicht gelesen werden
+  5  die Szene oder das Bild kann nicht geschrieben werden
+  6  ein Modul kann nicht geladen werden
+  7  das Skript kann nicht gelesen werden oder ist gescheitert; nichts wurde geschrieben
+  8  das Skript wurde unterbrochen; nichts wurde geschrieben
+</translation>
+    </message>
+    <message>
+        <source>The option --record needs a window: a run without one has nobody to record.</source>
+        <translation>Die Option --record braucht ein Fenster: Ohne gibt es niemanden, der etwas tut.</translation>
     </message>
 </context>
 <context>
@@ -442,6 +458,21 @@ Ein Lauf ohne Fenster gibt zurück:
     </message>
 </context>
 <context>
+    <name>viewer::GuideWindow</name>
+    <message>
+        <source>The user guide was not installed with the viewer.</source>
+        <translation>Das Benutzerhandbuch wurde nicht mit dem Betrachter installiert.</translation>
+    </message>
+    <message>
+        <source>User Guide</source>
+        <translation>Benutzerhandbuch</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+</context>
+<context>
     <name>viewer::HeadlessRun</name>
     <message>
         <source>The picture &quot;%1&quot; cannot be written: %2</source>
@@ -452,8 +483,28 @@ Ein Lauf ohne Fenster gibt zurück:
         <translation>es braucht zu viel Speicher</translation>
     </message>
     <message>
-        <source>Warning: the picture &quot;%1&quot; cannot be read; a placeholder stands for it.</source>
+        <source>Still opening &quot;%1&quot; after %2 s.</source>
+        <translation>„%1“ wird nach %2 s noch geöffnet.</translation>
+    </message>
+    <message>
+        <source>Still running &quot;%1&quot; after %2 s.</source>
+        <translation>„%1“ wird nach %2 s noch ausgeführt.</translation>
+    </message>
+    <message>
+        <source>Still saving &quot;%1&quot; after %2 s.</source>
+        <translation>„%1“ wird nach %2 s noch gespeichert.</translation>
+    </message>
+    <message>
+        <source>Still drawing &quot;%1&quot; after %2 s.</source>
+        <translation>„%1“ wird nach %2 s noch gezeichnet.</translation>
+    </message>
+    <message>
+        <source>Warning: the image &quot;%1&quot; cannot be read; a placeholder stands for it.</source>
         <translation>Warnung: Das Bild „%1“ kann nicht gelesen werden; dafür steht ein Platzhalter.</translation>
+    </message>
+    <message>
+        <source>Warning: the image &quot;%1&quot; cannot be read, but is not shown either.</source>
+        <translation>Warnung: Das Bild „%1“ kann nicht gelesen werden, wird aber auch nicht gezeigt.</translation>
     </message>
 </context>
 <context>
@@ -628,6 +679,10 @@ Ein Lauf ohne Fenster gibt zurück:
     <message>
         <source>The command of the menu goes first.</source>
         <translation>Der Befehl des Menüs hat Vorrang.</translation>
+    </message>
+    <message>
+        <source>User &amp;Guide</source>
+        <translation>Benutzer&amp;handbuch</translation>
     </message>
 </context>
 <context>
@@ -938,6 +993,17 @@ Ein Lauf ohne Fenster gibt zurück:
         <translation>
             <numerusform>%n ausgewählt, aber durch die Suche verborgen</numerusform>
             <numerusform>%n ausgewählt, aber durch die Suche verborgen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Search again</source>
+        <translation>Erneut suchen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n changed since the search</source>
+        <translation>
+            <numerusform>%n seit der Suche geändert</numerusform>
+            <numerusform>%n seit der Suche geändert</numerusform>
         </translation>
     </message>
 </context>

@@ -27,5 +27,12 @@
             <numerusform>%n selected, but hidden by the search</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n changed since the search</source>
+        <translation>
+            <numerusform>%n changed since the search</numerusform>
+            <numerusform>%n changed since the search</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -300,26 +300,6 @@
         <translation>导出时不含背景。</translation>
     </message>
     <message>
-        <source>
-A headless run returns:
-  0  all was done
-  2  the arguments are wrong
-  3  done, but a picture of the scene cannot be read; a placeholder was drawn
-  4  the scene cannot be read
-  5  the scene or the picture cannot be written
-  6  a module cannot be loaded
-</source>
-        <translation>
-无窗口运行的返回值：
-  0  全部完成
-  2  参数错误
-  3  已完成，但场景中的某张图片无法读取，已绘制占位图
-  4  无法读取场景
-  5  无法写入场景或图片
-  6  无法加载模块
-</translation>
-    </message>
-    <message>
         <source>The option --%1 needs --headless.</source>
         <translation>选项 --%1 需要 --headless。</translation>
     </message>
@@ -350,6 +330,42 @@ A headless run returns:
     <message>
         <source>&quot;%1&quot; is not the name of a language: de would be one.</source>
         <translation>“%1”不是语言名称；例如 de 就是。</translation>
+    </message>
+    <message>
+        <source>Run this script once the scene is open.</source>
+        <translation>场景打开后运行此脚本。</translation>
+    </message>
+    <message>
+        <source>Record what is done to the scene as a script.</source>
+        <translation>将对场景的操作录制为脚本。</translation>
+    </message>
+    <message>
+        <source>
+A headless run returns:
+  0  all was done
+  2  the arguments are wrong
+  3  done, but an image that is shown cannot be read; a placeholder was drawn
+  4  the scene cannot be read
+  5  the scene or the picture cannot be written
+  6  a module cannot be loaded
+  7  the script cannot be read, or failed; nothing was written
+  8  the script was interrupted; nothing was written
+</source>
+        <translation>
+无窗口运行的返回值：
+  0  全部完成
+  2  参数错误
+  3  已完成，但某个显示的图像无法读取，已绘制占位图
+  4  无法读取场景
+  5  无法写入场景或图片
+  6  无法加载模块
+  7  脚本无法读取或失败，未写入任何内容
+  8  脚本已中断，未写入任何内容
+</translation>
+    </message>
+    <message>
+        <source>The option --record needs a window: a run without one has nobody to record.</source>
+        <translation>选项 --record 需要窗口：没有窗口就没有可录制的操作。</translation>
     </message>
 </context>
 <context>
@@ -442,6 +458,21 @@ A headless run returns:
     </message>
 </context>
 <context>
+    <name>viewer::GuideWindow</name>
+    <message>
+        <source>The user guide was not installed with the viewer.</source>
+        <translation>查看器未附带安装用户指南。</translation>
+    </message>
+    <message>
+        <source>User Guide</source>
+        <translation>用户指南</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>目录</translation>
+    </message>
+</context>
+<context>
     <name>viewer::HeadlessRun</name>
     <message>
         <source>The picture &quot;%1&quot; cannot be written: %2</source>
@@ -452,8 +483,28 @@ A headless run returns:
         <translation>所需内存过大</translation>
     </message>
     <message>
-        <source>Warning: the picture &quot;%1&quot; cannot be read; a placeholder stands for it.</source>
-        <translation>警告：无法读取图片“%1”，已用占位图代替。</translation>
+        <source>Still opening &quot;%1&quot; after %2 s.</source>
+        <translation>%2 秒后仍在打开“%1”。</translation>
+    </message>
+    <message>
+        <source>Still running &quot;%1&quot; after %2 s.</source>
+        <translation>%2 秒后仍在运行“%1”。</translation>
+    </message>
+    <message>
+        <source>Still saving &quot;%1&quot; after %2 s.</source>
+        <translation>%2 秒后仍在保存“%1”。</translation>
+    </message>
+    <message>
+        <source>Still drawing &quot;%1&quot; after %2 s.</source>
+        <translation>%2 秒后仍在绘制“%1”。</translation>
+    </message>
+    <message>
+        <source>Warning: the image &quot;%1&quot; cannot be read; a placeholder stands for it.</source>
+        <translation>警告：无法读取图像“%1”，已用占位图代替。</translation>
+    </message>
+    <message>
+        <source>Warning: the image &quot;%1&quot; cannot be read, but is not shown either.</source>
+        <translation>警告：无法读取图像“%1”，但它也未被显示。</translation>
     </message>
 </context>
 <context>
@@ -628,6 +679,10 @@ A headless run returns:
     <message>
         <source>The command of the menu goes first.</source>
         <translation>菜单命令优先。</translation>
+    </message>
+    <message>
+        <source>User &amp;Guide</source>
+        <translation>用户指南(&amp;G)</translation>
     </message>
 </context>
 <context>
@@ -935,6 +990,16 @@ A headless run returns:
         <source>%n selected, but hidden by the search</source>
         <translation>
             <numerusform>%n 项已选择，但被搜索隐藏</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Search again</source>
+        <translation>重新搜索</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n changed since the search</source>
+        <translation>
+            <numerusform>搜索后有 %n 项更改</numerusform>
         </translation>
     </message>
 </context>

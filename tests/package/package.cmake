@@ -51,6 +51,7 @@ want_files(
     share/man/man1/overlay-viewer.1
     ${DATADIR}/examples/title_sheet.json
     ${DATADIR}/examples/images/*.svg
+    ${DATADIR}/docs/USER_GUIDE.md
     ${DATADIR}/translations/*_de.qm
     ${DATADIR}/translations/*_zh_CN.qm)
 

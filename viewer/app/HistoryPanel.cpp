@@ -4,6 +4,7 @@
 #include "viewer/app/HistoryPanel.h"
 
 #include "host/kxIconManager.h"
+#include "viewer/app/HelpId.h"
 
 #include <QGuiApplication>
 #include <QListView>
@@ -68,6 +69,7 @@ HistoryPanel::HistoryPanel(OverlayService *service, QWidget *parent)
     , m_list(new QListView(this))
 {
     setObjectName(QStringLiteral("history"));
+    setHelpId(this, QStringLiteral("Viewer_History"));
     m_list->setObjectName(QStringLiteral("historyList"));
     m_list->setAccessibleName(tr("Steps"));
     m_list->setUniformItemSizes(true);

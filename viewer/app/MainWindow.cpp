@@ -4,9 +4,12 @@
 #include "viewer/app/MainWindow.h"
 
 #include "host/kxIconManager.h"
+#include "viewer/app/GuideWindow.h"
+#include "viewer/app/HelpId.h"
 #include "viewer/app/ModulePanels.h"
 #include "viewer/app/Scaled.h"
 #include "viewer/app/ShortcutsDialog.h"
+#include "viewer/app/UserGuide.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -196,6 +199,9 @@ void MainWindow::createModulesMenu()
 void MainWindow::createHelpMenu()
 {
     QMenu *menu = menuBar()->addMenu(tr("&Help"));
+    QAction *guide = menu->addAction(tr("User &Guide"), this, &MainWindow::showGuide);
+    guide->setObjectName(QStringLiteral("userGuide"));
+    guide->setShortcut(QKeySequence::HelpContents);
     QAction *shortcuts =
         menu->addAction(tr("&Keyboard Shortcuts…"), this, &MainWindow::showShortcuts);
     shortcuts->setObjectName(QStringLiteral("keyboardShortcutsEntry"));
@@ -260,6 +266,21 @@ void MainWindow::showShortcuts()
     dialog->show();
     dialog->raise();
     dialog->activateWindow();
+}
+
+/// At the page of the panel that has the focus.
+void MainWindow::showGuide()
+{
+    const QString helpId = helpIdOf(QApplication::focusWidget());
+    auto *window = findChild<GuideWindow *>();
+    if (!window) {
+        window = new GuideWindow(UserGuide::file(), this);
+        window->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    window->show();
+    window->raise();
+    window->activateWindow();
+    window->goTo(helpId);
 }
 
 void MainWindow::showAbout()

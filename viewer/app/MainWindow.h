@@ -90,6 +90,7 @@ private:
     void toggleFullScreen(bool on);
     QVector<kxShortcut::Entry> ownKeys(KeyScope scope) const;
     void showShortcuts();
+    void showGuide();
     void showAbout();
 
     ViewArea *m_viewArea;

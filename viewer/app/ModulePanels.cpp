@@ -3,6 +3,7 @@
 
 #include "viewer/app/ModulePanels.h"
 
+#include "viewer/app/HelpId.h"
 #include "viewer/app/Scaled.h"
 
 #include <QCoreApplication>
@@ -17,7 +18,6 @@ namespace {
 
 // Room for a tree beside a column of labels and controls.
 constexpr int UsualWidth = 700;
-constexpr char HelpIdProperty[] = "moduleHelpId";
 
 // Layouts are remembered by object name.
 QString dockName(const QString &module)
@@ -76,8 +76,7 @@ QDockWidget *ModulePanels::dock(const QString &name) const
 
 QString ModulePanels::helpId(const QString &name) const
 {
-    const QDockWidget *panel = dock(name);
-    return panel ? panel->property(HelpIdProperty).toString() : QString();
+    return helpIdOf(dock(name));
 }
 
 void ModulePanels::applyDefaultSizes()
@@ -113,7 +112,7 @@ QDockWidget *ModulePanels::makeDock(const ModuleInfo &info, QWidget *content)
     panel->setObjectName(dockName(info.name));
     panel->setWindowIcon(info.icon);
     panel->toggleViewAction()->setIcon(info.icon);
-    panel->setProperty(HelpIdProperty, info.helpId);
+    setHelpId(panel, info.helpId);
     // A window of its own becomes part of the dock; its class may hide QWidget::show().
     panel->setWidget(content);
     content->setVisible(true);

@@ -109,7 +109,8 @@ private:
             return;
         for (int i = 0; tree && !tree->isHeaderHidden() && i < model->columnCount(); ++i)
             add(model->headerData(i, Qt::Horizontal).toString(), view, "header");
-        if (!isInFileDialog(view)
+        // The guide is a document of its own.
+        if (view->objectName() != "guideContents" && !isInFileDialog(view)
             && !qobject_cast<const QFontComboBox *>(view->parentWidget()->parentWidget()))
             addRows(view, QModelIndex());
     }

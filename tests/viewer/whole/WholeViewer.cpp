@@ -226,6 +226,10 @@ void WholeViewer::visitDialogs()
     auto *shortcuts = window->findChild<QDialog *>("keyboardShortcuts");
     show(shortcuts, "keyboard shortcuts");
     shortcuts->close();
+    action("userGuide")->trigger();
+    auto *guide = window->findChild<QDialog *>("guideWindow");
+    show(guide, "user guide");
+    guide->close();
     visitModal("about", [this] { action("about")->trigger(); });
     FileQuestions questions(window);
     visitModal("unsaved changes", [&] { questions.aboutChanges("1.json"); });

@@ -1,0 +1,112 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "viewer/app/UserGuide.h"
+
+#include "viewer/app/SharedFiles.h"
+
+#include <QImage>
+#include <QRegularExpression>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QUrl>
+
+#include <algorithm>
+
+namespace viewer {
+
+namespace {
+
+constexpr int WidestPicture = 640;
+
+// Carries a help identifier behind the words of its heading while the text is read; no text has it.
+constexpr ushort Mark = 0xe000;
+
+/// Help identifiers, which comments hold, become a part of their headings.
+QString withMarks(QString markdown)
+{
+    static const QRegularExpression comment(
+        QStringLiteral("<!-- help: (\\w+) -->\\s*((?:<!-- help: \\w+ -->\\s*)*)(#+ [^\\n]*)"));
+    for (QRegularExpressionMatch match = comment.match(markdown); match.hasMatch();
+         match = comment.match(markdown)) {
+        markdown.replace(match.capturedStart(), match.capturedLength(),
+                         match.captured(2) + match.captured(3) + QChar(Mark) + match.captured(1));
+    }
+    return markdown;
+}
+
+/// The name that links give to a heading.
+QString slug(const QString &heading)
+{
+    QString name;
+    for (const QChar letter : heading.toLower()) {
+        if (letter.isLetterOrNumber() || letter == QLatin1Char('-') || letter == QLatin1Char('_'))
+            name += letter;
+        else if (letter.isSpace())
+            name += QLatin1Char('-');
+    }
+    return name;
+}
+
+} // namespace
+
+UserGuide::UserGuide(const QString &markdown, const QString &folder, QObject *parent)
+    : QTextDocument(parent)
+{
+    setBaseUrl(QUrl::fromLocalFile(folder + QLatin1Char('/')));
+    setMarkdown(withMarks(markdown));
+    readHeadings();
+    setUndoRedoEnabled(false);
+}
+
+bool UserGuide::hasAnchor(const QString &anchor) const
+{
+    return std::any_of(m_headings.begin(), m_headings.end(), [&anchor](const Heading &heading) {
+        return heading.anchors.contains(anchor);
+    });
+}
+
+QString UserGuide::file()
+{
+    return sharedfiles::find(QStringLiteral("docs"), QStringLiteral("USER_GUIDE.md"));
+}
+
+QVariant UserGuide::loadResource(int type, const QUrl &name)
+{
+    if (type != ImageResource)
+        return QTextDocument::loadResource(type, name);
+    const QImage picture(baseUrl().resolved(name).toLocalFile());
+    return picture.width() > WidestPicture
+               ? picture.scaledToWidth(WidestPicture, Qt::SmoothTransformation)
+               : picture;
+}
+
+void UserGuide::readHeadings()
+{
+    for (QTextBlock block = begin(); block.isValid(); block = block.next()) {
+        const int level = block.blockFormat().headingLevel();
+        if (level == 0)
+            continue;
+        const QStringList parts = block.text().split(QChar(Mark));
+        const QString text = parts.first().trimmed();
+        const Heading heading{text, level, QStringList(slug(text)) + parts.mid(1)};
+        QTextCursor cursor(block);
+        cursor.setPosition(block.position() + parts.first().size());
+        cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+        cursor.removeSelectedText();
+        setAnchors(block, heading.anchors);
+        m_headings.append(heading);
+    }
+}
+
+void UserGuide::setAnchors(const QTextBlock &block, const QStringList &anchors)
+{
+    QTextCharFormat format;
+    format.setAnchor(true);
+    format.setAnchorNames(anchors);
+    QTextCursor cursor(block);
+    cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+    cursor.mergeCharFormat(format);
+}
+
+} // namespace viewer
