@@ -41,7 +41,7 @@ function(kx_install_package)
         DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps")
     install(FILES packaging/overlay-viewer.1 DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
     install(FILES examples/title_sheet.json DESTINATION "${KX_INSTALL_DATADIR}/examples")
-    install(DIRECTORY examples/images DESTINATION "${KX_INSTALL_DATADIR}/examples")
+    install(DIRECTORY examples/images examples/minimal_host DESTINATION "${KX_INSTALL_DATADIR}/examples")
     install(FILES README.md CHANGES.md LICENSE DESTINATION "${CMAKE_INSTALL_DOCDIR}")
     install(FILES docs/HOST_GUIDE.md docs/CONFORMANCE.md docs/HEADLESS.md docs/SCENE_FORMAT.md
         DESTINATION "${CMAKE_INSTALL_DOCDIR}")

@@ -60,6 +60,10 @@ class Arrows(Tree):
                 self.assertEqual(len(self.include(name, f'#include "{target}"')), 1)
                 (self.root / name).unlink()
 
+    def test_should_let_an_example_be_a_project_of_its_own(self):
+        self.assertEqual(self.include("examples/host/a.cpp", '#include "x.h"'), [])
+        self.assertEqual(len(self.include("examples/host/a.cpp", '#include "../x.h"')), 1)
+
     def test_should_see_an_include_in_any_spelling(self):
         for line in ("#include <overlayeditor/x.h>", "#  include \"overlayeditor/x.h\"",
                      '#include "host/../overlayeditor/x.h"', '#include "../overlayeditor/x.h"',

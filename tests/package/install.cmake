@@ -1,28 +1,10 @@
 # SPDX-FileCopyrightText: the Overlay Editor authors
 # SPDX-License-Identifier: MIT
 #
-# Installs an existing build into an empty prefix, moves the result, and there
-#   - looks for each file that the package promises,
-#   - runs the viewer, which has to find library and plug-in by itself,
-#   - builds a project that knows nothing but the prefix, and runs it.
-#
-# Called by CTest with BUILD, OUTSIDE, COMPILER, FLAGS, LAUNCHER, VERSION, BINDIR, LIBDIR and
-# DATADIR.
+# Installs an existing build into an empty prefix, moves the result, looks for each file that the
+# package promises, and runs the viewer, which has to find library and plug-in by itself.
 
-cmake_policy(VERSION 3.25)
-
-set(place "${BUILD}/package-test")
-set(prefix "${place}/moved")
-
-function(run)
-    execute_process(COMMAND ${ARGN}
-        RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
-    if(NOT result EQUAL 0)
-        list(JOIN ARGN " " command)
-        message(FATAL_ERROR "${command}\nreturned ${result}\n${output}")
-    endif()
-    set(output "${output}" PARENT_SCOPE)
-endfunction()
+include("${CMAKE_CURRENT_LIST_DIR}/common.cmake")
 
 function(want_files)
     foreach(pattern IN LISTS ARGN)
@@ -52,6 +34,7 @@ want_files(
     ${DATADIR}/examples/title_sheet.json
     ${DATADIR}/examples/images/*.svg
     ${DATADIR}/docs/USER_GUIDE.md
+    ${DATADIR}/examples/minimal_host/CMakeLists.txt
     ${DATADIR}/translations/*_de.qm
     ${DATADIR}/translations/*_zh_CN.qm)
 
@@ -66,14 +49,3 @@ run("${prefix}/${BINDIR}/overlay-viewer" --locale de --help)
 if(NOT output MATCHES "Diese Hilfe anzeigen")
     message(FATAL_ERROR "the installed viewer does not find its translations: ${output}")
 endif()
-
-run("${CMAKE_COMMAND}" -G Ninja -S "${OUTSIDE}" -B "${place}/outside"
-    "-DCMAKE_PREFIX_PATH=${prefix}" "-DCMAKE_CXX_COMPILER=${COMPILER}" "-DCMAKE_CXX_FLAGS=${FLAGS}"
-    "-DCMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER}" "-DWANTED_VERSION=${VERSION}"
-    -DCMAKE_FIND_USE_PACKAGE_REGISTRY=OFF)
-run("${CMAKE_COMMAND}" --build "${place}/outside")
-run("${place}/outside/outside")
-if(NOT output MATCHES "registry 1, slider 12.5, keys 1, entry 1, from ${prefix}/")
-    message(FATAL_ERROR "the outside host saw: ${output}")
-endif()
-file(REMOVE_RECURSE "${place}")
