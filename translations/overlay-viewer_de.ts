@@ -16,6 +16,57 @@
     </message>
 </context>
 <context>
+    <name>ReadOut</name>
+    <message>
+        <source>Top Left</source>
+        <translation>Oben links</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Top Right</source>
+        <translation>Oben rechts</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Bottom Left</source>
+        <translation>Unten links</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Bottom Right</source>
+        <translation>Unten rechts</translation>
+    </message>
+    <message>
+        <source>Anchor: %1 (x %2, y %3 of the view)</source>
+        <translation>Anker: %1 (x %2, y %3 der Ansicht)</translation>
+    </message>
+    <message>
+        <source>Anchor: x %1, y %2 of the view</source>
+        <translation>Anker: x %1, y %2 der Ansicht</translation>
+    </message>
+    <message>
+        <source>Offset: x %1 pt, y %2 pt</source>
+        <translation>Versatz: x %1 pt, y %2 pt</translation>
+    </message>
+</context>
+<context>
     <name>Step</name>
     <message>
         <source>Create &quot;%1&quot;</source>
@@ -366,6 +417,13 @@ Ein Lauf ohne Fenster gibt zurück:
     <message>
         <source>The option --record needs a window: a run without one has nobody to record.</source>
         <translation>Die Option --record braucht ein Fenster: Ohne gibt es niemanden, der etwas tut.</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::EditLayer</name>
+    <message>
+        <source>Outlines of what is selected</source>
+        <translation>Umrisse des Ausgewählten</translation>
     </message>
 </context>
 <context>

@@ -16,6 +16,57 @@
     </message>
 </context>
 <context>
+    <name>ReadOut</name>
+    <message>
+        <source>Top Left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>Top Right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>居中</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Bottom Left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>Bottom Right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>Anchor: %1 (x %2, y %3 of the view)</source>
+        <translation>锚点：%1（视图的 x %2，y %3）</translation>
+    </message>
+    <message>
+        <source>Anchor: x %1, y %2 of the view</source>
+        <translation>锚点：视图的 x %1，y %2</translation>
+    </message>
+    <message>
+        <source>Offset: x %1 pt, y %2 pt</source>
+        <translation>偏移：x %1 pt，y %2 pt</translation>
+    </message>
+</context>
+<context>
     <name>Step</name>
     <message>
         <source>Create &quot;%1&quot;</source>
@@ -366,6 +417,13 @@ A headless run returns:
     <message>
         <source>The option --record needs a window: a run without one has nobody to record.</source>
         <translation>选项 --record 需要窗口：没有窗口就没有可录制的操作。</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::EditLayer</name>
+    <message>
+        <source>Outlines of what is selected</source>
+        <translation>所选内容的轮廓</translation>
     </message>
 </context>
 <context>

@@ -34,6 +34,20 @@ void visitRows(const QAbstractItemModel &model,
     }
 }
 
+/// Rows as ranges, in their order; rows that follow one another are one range, because a selection
+/// model compares each range with each.
+QItemSelection rangesOf(const QModelIndexList &rows)
+{
+    QItemSelection ranges;
+    for (int first = 0, next = 1; first < rows.size(); first = next++) {
+        while (next < rows.size()
+               && rows.at(next) == rows.at(next - 1).siblingAtRow(rows.at(next - 1).row() + 1))
+            ++next;
+        ranges.append(QItemSelectionRange(rows.at(first), rows.at(next - 1)));
+    }
+    return ranges;
+}
+
 } // namespace
 
 NodeView::NodeView(QWidget *widget)
@@ -41,6 +55,11 @@ NodeView::NodeView(QWidget *widget)
     auto *view = qobject_cast<QAbstractItemView *>(widget);
     if (view && view->model() && nodeOf(view->model()->index(0, 0)) != 0)
         m_view = view;
+}
+
+QItemSelectionModel *NodeView::selectionModel() const
+{
+    return m_view ? m_view->selectionModel() : nullptr;
 }
 
 QRPC::NodeList NodeView::selectedNodes() const
@@ -82,10 +101,8 @@ void NodeView::select(const QRPC::NodeList &nodes)
 {
     if (!m_view)
         return;
-    QItemSelection selection;
     const QModelIndexList rows = rowsOf(nodes);
-    for (const QModelIndex &row : rows)
-        selection.select(row, row);
+    const QItemSelection selection = rangesOf(rows);
     m_view->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
     m_view->selectionModel()->setCurrentIndex(rows.value(0), QItemSelectionModel::NoUpdate);
 }

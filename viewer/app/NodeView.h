@@ -9,6 +9,7 @@
 #include <QPointer>
 
 class QAbstractItemView;
+class QItemSelectionModel;
 class QWidget;
 
 namespace viewer {
@@ -29,6 +30,9 @@ public:
 
     bool isNull() const { return m_view.isNull(); }
 
+    /// What tells of changes of the selection; null when there is no view.
+    QItemSelectionModel *selectionModel() const;
+
     /// The nodes of the selected rows, in the order in which they were selected.
     QRPC::NodeList selectedNodes() const;
 
@@ -38,7 +42,7 @@ public:
     /// Opens the rows of nodes, where the view is a tree.
     void open(const QRPC::NodeList &nodes);
 
-    /// Makes the rows of nodes the selection and brings the first into view.
+    /// Makes the rows of nodes the selection, in one change, and brings the first into view.
     void select(const QRPC::NodeList &nodes);
 
 private:

@@ -47,13 +47,19 @@ void OverlayLayer::followValues(const kxOverlayService *service)
     connect(service, &kxOverlayService::offsetChanged, this, redraw);
 }
 
+ViewGeometry OverlayLayer::geometryOf(const QWidget &widget)
+{
+    const qreal scale = widget.devicePixelRatioF();
+    return {(QSizeF(widget.size()) * scale).toSize(), Dpi * scale};
+}
+
 void OverlayLayer::paintEvent(QPaintEvent *)
 {
     // Drawn in the display's own pixels, so that an export of that size is the same picture.
-    const qreal scale = devicePixelRatioF();
+    const ViewGeometry view = geometryOf(*this);
     QPainter painter(this);
-    painter.scale(1 / scale, 1 / scale);
-    m_draw(&painter, (QSizeF(size()) * scale).toSize(), Dpi * scale);
+    painter.scale(1 / devicePixelRatioF(), 1 / devicePixelRatioF());
+    m_draw(&painter, view.size, view.dpi);
 }
 
 } // namespace viewer

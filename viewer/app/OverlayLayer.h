@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "viewer/render/OverlayLayout.h"
+
 #include <QWidget>
 
 #include <functional>
@@ -23,6 +25,9 @@ public:
     using Draw = std::function<void(QPainter *painter, const QSize &size, double dpi)>;
 
     OverlayLayer(kxOverlayService *service, Draw draw, QWidget *parent = nullptr);
+
+    /// The view that a widget comes to, in the display's own pixels.
+    static ViewGeometry geometryOf(const QWidget &widget);
 
     /// Dots per inch of a view whose pixels are not scaled by the display.
     static constexpr double Dpi = 96.0;

@@ -4,6 +4,7 @@
 #include "viewer/app/ViewArea.h"
 
 #include "viewer/app/Backdrop.h"
+#include "viewer/app/HelpId.h"
 #include "viewer/app/NoticeArea.h"
 #include "viewer/app/Viewport.h"
 
@@ -14,6 +15,7 @@ ViewArea::ViewArea(Background background, QWidget *parent)
     , m_notices(new NoticeArea(this))
 {
     setObjectName(QStringLiteral("viewArea"));
+    setHelpId(this, QStringLiteral("Viewer_View"));
     setMinimumSize(200, 150);
     const QString fault = background == Background::Painted ? tr("switched off for this run")
                                                             : Viewport::openGlFault();
@@ -23,15 +25,43 @@ ViewArea::ViewArea(Background background, QWidget *parent)
         showBackdrop(fault);
 }
 
-ViewArea::~ViewArea() = default;
-
-void ViewArea::setOverlayLayer(QWidget *layer)
+ViewArea::~ViewArea()
 {
-    delete m_overlayLayer;
-    m_overlayLayer = layer;
+    // The background goes later than what the filter asks for.
+    if (m_inputFilter)
+        background()->removeEventFilter(m_inputFilter);
+}
+
+void ViewArea::addLayer(QWidget *layer)
+{
+    m_layers.append(layer);
     layer->setParent(this);
     layer->show();
     arrange();
+}
+
+void ViewArea::setInputFilter(QObject *filter)
+{
+    m_inputFilter = filter;
+    takeInput();
+}
+
+void ViewArea::takeInput()
+{
+    if (!m_inputFilter)
+        return;
+    background()->installEventFilter(m_inputFilter);
+    background()->setMouseTracking(true);
+}
+
+QWidget *ViewArea::background() const
+{
+    return m_viewport ? static_cast<QWidget *>(m_viewport) : m_backdrop;
+}
+
+Qt::CursorShape ViewArea::ownCursor() const
+{
+    return m_viewport ? Qt::OpenHandCursor : Qt::ArrowCursor;
 }
 
 QString ViewArea::backgroundText() const
@@ -68,21 +98,22 @@ void ViewArea::showBackdrop(const QString &reason)
     delete m_viewport;
     m_viewport = nullptr;
     m_backdrop = new Backdrop(this);
+    m_backdrop->setFocusPolicy(Qt::ClickFocus);
     connect(m_backdrop, &Backdrop::painted, this, &ViewArea::framePainted);
     m_backdrop->show();
+    takeInput();
     arrange();
     emit backgroundChanged();
 }
 
 void ViewArea::arrange()
 {
-    QWidget *background = m_viewport;
-    if (!background)
-        background = m_backdrop;
-    background->setGeometry(rect());
-    background->lower();
-    if (m_overlayLayer)
-        m_overlayLayer->setGeometry(rect());
+    background()->setGeometry(rect());
+    background()->lower();
+    for (QWidget *layer : qAsConst(m_layers)) {
+        layer->setGeometry(rect());
+        layer->raise();
+    }
     m_notices->raise();
     m_notices->place();
 }

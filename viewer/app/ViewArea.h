@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QVector>
 #include <QWidget>
 
 namespace viewer {
@@ -26,8 +27,19 @@ public:
     explicit ViewArea(Background background, QWidget *parent = nullptr);
     ~ViewArea() override;
 
-    /// Puts the widget that draws the overlays between background and notices, and owns it.
-    void setOverlayLayer(QWidget *layer);
+    /// Puts a widget between all that lies below the notices and the notices, and owns it: first
+    /// what draws the overlays, then what lies over them.
+    void addLayer(QWidget *layer);
+
+    /// Has an object filter the events of whatever is the background, which then follows the mouse
+    /// without a button too.
+    void setInputFilter(QObject *filter);
+
+    /// The widget behind the layers, which has the size of all of them: the 3D view or the backdrop.
+    QWidget *background() const;
+
+    /// The shape of the mouse over the background where nothing else gives it one.
+    Qt::CursorShape ownCursor() const;
 
     /// The 3D view; null when the backdrop stands in.
     Viewport *viewport() const { return m_viewport; }
@@ -51,11 +63,13 @@ protected:
 private:
     void showViewport();
     void showBackdrop(const QString &reason);
+    void takeInput();
     void arrange();
 
     Viewport *m_viewport = nullptr;
     Backdrop *m_backdrop = nullptr;
-    QWidget *m_overlayLayer = nullptr;
+    QVector<QWidget *> m_layers; // the lowest first
+    QObject *m_inputFilter = nullptr;
     NoticeArea *m_notices;
     QString m_fault;
 };

@@ -11,6 +11,7 @@
 #include "viewer/app/Screenshot.h"
 #include "viewer/app/SearchGuide.h"
 #include "viewer/app/UndoActions.h"
+#include "viewer/app/ViewEditing.h"
 
 #include <QApplication>
 #include <QDir>
@@ -147,12 +148,13 @@ void ViewerSession::showOverlays()
         m_painter.paint(*painter, size, dpi);
     };
     auto *layer = new OverlayLayer(overlays(), draw);
-    m_window->viewArea()->setOverlayLayer(layer);
+    m_window->viewArea()->addLayer(layer);
     connect(&m_images, &ImageCache::pictureChanged, layer, qOverload<>(&QWidget::update));
     connect(&m_images, &ImageCache::watchLimited, this, [this] {
         report(Severity::Info, tr("There are more image files than can be watched. When one of the "
                                   "others changes, it is shown within a few seconds."));
     });
+    new ViewEditing(overlays(), &m_painter, m_window->viewArea());
 }
 
 void ViewerSession::loadModules()

@@ -19,20 +19,6 @@ namespace {
 
 constexpr double SnapDistance = 6.0; // device-independent pixels
 
-QPointF anchorOf(const Scene &scene, NodeId node, const QSize &view)
-{
-    const QPointF position = scene.find(node)->overlay.position;
-    return {position.x() * view.width(), (1.0 - position.y()) * view.height()};
-}
-
-/// The point of an overlay's own box that its offset moves away from the anchor.
-QPointF referenceOf(const Scene &scene, const DrawnOverlay &overlay)
-{
-    const QPointF position = scene.find(overlay.node)->overlay.position;
-    return {overlay.box.left() + position.x() * overlay.box.width(),
-            overlay.box.top() + (1.0 - position.y()) * overlay.box.height()};
-}
-
 QPointF straightened(const QPointF &way)
 {
     return std::abs(way.x()) < std::abs(way.y()) ? QPointF(0, way.y()) : QPointF(way.x(), 0);
@@ -50,15 +36,17 @@ DragMove::DragMove(OverlayService *service, const EditView &view,
     , m_step(service, Operation::MoveInView, nodes)
 {
     const Scene &scene = service->scene();
-    m_lines.addAnchor(anchorOf(scene, grip, view.geometry.size));
+    const QRectF seen(QPointF(), view.geometry.size);
+    m_lines.addAnchor(pointAt(scene.find(grip)->overlay.position, seen));
     const QSet<NodeId> moved(nodes.begin(), nodes.end());
     for (const DrawnOverlay &overlay : drawn) {
+        const QPointF position = scene.find(overlay.node)->overlay.position;
         if (!moved.contains(overlay.node))
-            m_lines.addOverlay(overlay.box, anchorOf(scene, overlay.node, view.geometry.size));
+            m_lines.addOverlay(overlay.box, pointAt(position, seen));
         else
             m_shape.box |= overlay.box;
         if (overlay.node == grip)
-            m_shape.reference = referenceOf(scene, overlay);
+            m_shape.reference = pointAt(position, overlay.box);
     }
 }
 

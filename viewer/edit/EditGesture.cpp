@@ -93,6 +93,7 @@ bool EditGesture::move(const QMouseEvent &event)
     if (m_state == State::Idle || m_state == State::Spent)
         return isTaken();
     m_at = toView(event.localPos());
+    m_bandAdds = event.modifiers().testFlag(Qt::ControlModifier);
     const bool hasLeft = !isNear(m_at, m_pressedAt);
     if (m_state == State::Watching && hasLeft)
         enter(State::Idle);
@@ -111,10 +112,11 @@ bool EditGesture::release(const QMouseEvent &event)
     if (event.button() != Qt::LeftButton)
         return wasTaken;
     m_at = toView(event.localPos());
+    m_bandAdds = event.modifiers().testFlag(Qt::ControlModifier);
     const bool isClick = isNear(m_at, m_pressedAt);
     const State state = m_state;
     if (state == State::Banding && !isClick)
-        endBand(event.modifiers());
+        endBand();
     abandon();
     if (isClick && (state == State::Watching || state == State::Pressed || state == State::Banding))
         click(event.modifiers());
@@ -244,10 +246,10 @@ NodeList EditGesture::bandNodes() const
                : pickedByBand(m_stage->drawnOverlays(), area, m_stage->view().geometry.size);
 }
 
-void EditGesture::endBand(Qt::KeyboardModifiers modifiers)
+void EditGesture::endBand()
 {
     const NodeList inBand = bandNodes();
-    NodeList nodes = modifiers & Qt::ControlModifier ? m_stage->selection() : NodeList();
+    NodeList nodes = m_bandAdds ? m_stage->selection() : NodeList();
     const QSet<NodeId> known(nodes.begin(), nodes.end());
     std::copy_if(inBand.begin(), inBand.end(), std::back_inserter(nodes),
                  [&known](NodeId node) { return !known.contains(node); });

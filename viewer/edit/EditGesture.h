@@ -14,6 +14,9 @@ class QMouseEvent;
 
 namespace viewer {
 
+/// The modifiers once a key that is one of them is down or up; its event tells those before.
+Qt::KeyboardModifiers modifiersAfter(const QKeyEvent &event);
+
 /// The hand on the view: turns mouse and keys into picks, rubber bands, drags and nudges. Owned by
 /// whoever receives the events of the view, which hands each one over and lets those that are not
 /// taken go on to the view itself: a drag on an empty place turns the model there. GUI thread only;
@@ -58,6 +61,9 @@ public:
     /// The rubber band in pixels of the view; empty when there is none.
     QRectF band() const;
 
+    /// Whether what is in the band comes to what is selected already.
+    bool bandAdds() const { return m_bandAdds; }
+
     /// The overlays that the rubber band would select.
     QRPC::NodeList bandNodes() const;
 
@@ -66,6 +72,8 @@ public:
 
     /// The overlay whose place is being changed, 0 for none.
     QRPC::NodeId movedNode() const;
+
+    bool isDragging() const { return m_state == State::Dragging; }
 
     /// Where the mouse is, in pixels of the view.
     QPointF place() const { return m_at; }
@@ -100,7 +108,7 @@ private:
     QRPC::NodeId pickAgain(const QRPC::NodeList &order) const;
     void startDrag();
     void drag(Qt::KeyboardModifiers modifiers);
-    void endBand(Qt::KeyboardModifiers modifiers);
+    void endBand();
     void nudge(const QPointF &points);
     std::optional<Qt::CursorShape> idleCursor(const Ground &ground,
                                               Qt::KeyboardModifiers modifiers) const;
@@ -112,6 +120,7 @@ private:
     QPointF m_at;
     QRPC::NodeId m_grip = 0; // the overlay that a drag would move the selection by
     bool m_pickedByPress = false;
+    bool m_bandAdds = false;
     QRPC::NodeId m_lastPick = 0; // and where; another click there picks the one below
     QPointF m_lastPlace;
     std::optional<DragMove> m_drag;

@@ -40,7 +40,8 @@ std::optional<QPointF> wayOf(const QKeyEvent &event)
     }
 }
 
-/// The modifiers once a key that is one of them is down or up; its own event tells those before.
+} // namespace
+
 Qt::KeyboardModifiers modifiersAfter(const QKeyEvent &event)
 {
     Qt::KeyboardModifiers modifiers = event.modifiers();
@@ -51,8 +52,6 @@ Qt::KeyboardModifiers modifiersAfter(const QKeyEvent &event)
         modifiers.setFlag(Qt::ControlModifier, isDown);
     return modifiers;
 }
-
-} // namespace
 
 bool EditGesture::claims(const QKeyEvent &event) const
 {

@@ -26,6 +26,12 @@ double heightInPixels(const Overlay &overlay, const ViewGeometry &view)
     return height > 0.0 && std::isfinite(height) ? std::min(height, LargestHeight) : 0.0;
 }
 
+QPointF pointAt(const QPointF &relative, const QRectF &rectangle)
+{
+    return {rectangle.left() + relative.x() * rectangle.width(),
+            rectangle.top() + (1.0 - relative.y()) * rectangle.height()};
+}
+
 QRectF placeBox(const Overlay &overlay, const QSizeF &box, const ViewGeometry &view)
 {
     const QPointF at = overlay.position;

@@ -25,6 +25,10 @@ struct ViewGeometry
 /// positive, not finite), and never more than what can be drawn without harm.
 double heightInPixels(const Overlay &overlay, const ViewGeometry &view);
 
+/// The point of a rectangle at relative coordinates: x from left (0) to right (1), y from bottom (0)
+/// to top (1).
+QPointF pointAt(const QPointF &relative, const QRectF &rectangle);
+
 /// Puts a box of this size where the overlay belongs: the point of the box at the overlay's relative
 /// position lies on the point of the view at the same position, moved by the offset. An empty
 /// rectangle when position or offset are not finite.

@@ -251,7 +251,7 @@ void tst_HeadlessRun::shouldExportThePixelsOfTheView()
     viewer::ImageCache images;
     viewer::OverlayPainter painter(overlays->scene(), images);
     viewer::ViewArea view(viewer::ViewArea::Background::Painted);
-    view.setOverlayLayer(new viewer::OverlayLayer(
+    view.addLayer(new viewer::OverlayLayer(
         overlays, [&painter](QPainter *device, const QSize &size, double dpi) {
             painter.paint(*device, size, dpi);
         }));

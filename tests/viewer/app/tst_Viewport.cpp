@@ -140,7 +140,7 @@ void tst_Viewport::shouldDrawNothingOverItOnOrbiting()
 {
     auto *layer = new Layer;
     layer->setAttribute(Qt::WA_TransparentForMouseEvents);
-    m_area->setOverlayLayer(layer);
+    m_area->addLayer(layer);
     QTRY_VERIFY(layer->paints > 0);
     QCoreApplication::processEvents();
     const int before = layer->paints;

@@ -167,6 +167,12 @@ void tst_EditGesture::shouldLeaveEmptyGroundToTheView()
     QVERIFY(!move({60, 40}));
     QVERIFY(!release({60, 40}));
     QCOMPARE(selected(), QString("a"));
+    // A drag that comes back is no click.
+    QVERIFY(!press({150, 250}));
+    QVERIFY(!move({180, 260}));
+    QVERIFY(!move({150, 250}));
+    QVERIFY(!release({150, 250}));
+    QCOMPARE(selected(), QString("a"));
 }
 
 void tst_EditGesture::shouldLeaveOtherButtonsToTheView()
@@ -222,7 +228,12 @@ void tst_EditGesture::shouldPickAllInTheBand()
 void tst_EditGesture::shouldAddToTheSelectionWithABandAndCtrl()
 {
     select(ids("d a"));
-    drag({10, 90}, {150, 10}, Qt::ShiftModifier | Qt::ControlModifier);
+    press({10, 90}, Qt::ShiftModifier);
+    move({150, 10}, Qt::ShiftModifier);
+    QVERIFY(!gesture().bandAdds());
+    move({150, 10}, Qt::ShiftModifier | Qt::ControlModifier);
+    QVERIFY(gesture().bandAdds());
+    release({150, 10}, Qt::ControlModifier);
     QCOMPARE(selected(), QString("d a b"));
 }
 

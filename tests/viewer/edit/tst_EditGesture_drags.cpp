@@ -18,6 +18,7 @@ private Q_SLOTS:
     void shouldPickWhatIsDragged();
     void shouldAddWhatIsDraggedWithCtrl();
     void shouldMoveTheOneBelowThatWasPicked();
+    void shouldPickTheTopmostAfterADrag();
     void shouldMoveAllOfAGroup();
     void shouldTakeAShortWayForAClick();
     void shouldMakeOneStepOfADrag();
@@ -96,6 +97,15 @@ void tst_EditGesture_drags::shouldMoveTheOneBelowThatWasPicked()
     QCOMPARE(selected(), QString("a"));
 }
 
+void tst_EditGesture_drags::shouldPickTheTopmostAfterADrag()
+{
+    click({79, 45});
+    drag({79, 45}, {64, 52});
+    QCOMPARE(placeOf("b"), QPointF(35, 37));
+    click({79, 45});
+    QCOMPARE(selected(), QString("b"));
+}
+
 void tst_EditGesture_drags::shouldMoveAllOfAGroup()
 {
     select(ids("s"));
@@ -107,6 +117,7 @@ void tst_EditGesture_drags::shouldMoveAllOfAGroup()
 
 void tst_EditGesture_drags::shouldTakeAShortWayForAClick()
 {
+    setPixelRatio(2);
     press({210, 160});
     move({215, 165});
     QCOMPARE(placeOf("c"), QPointF(200, 150));
@@ -308,11 +319,16 @@ void tst_EditGesture_drags::shouldMoveStraightWithShift()
     QCOMPARE(placeOf("c"), QPointF(227, 150));
     move({215, 83}, Qt::ShiftModifier);
     QCOMPARE(placeOf("c"), QPointF(200, 73));
-    // Not even to a line that is near.
-    service().setOffset(ids("a"), {196, -20});
     release({215, 83}, Qt::ShiftModifier);
-    drag({210, 83}, {213, 113}, Qt::ShiftModifier);
-    QCOMPARE(placeOf("c").x(), 200.0);
+    // Not even to a line that is near.
+    place("c", {235, 152});
+    place("a", {238, 20});
+    place("b", {10, 155});
+    drag({240, 160}, {243, 100}, Qt::ShiftModifier);
+    QCOMPARE(placeOf("c"), QPointF(235, 92));
+    place("c", {235, 152});
+    drag({240, 160}, {275, 161}, Qt::ShiftModifier);
+    QCOMPARE(placeOf("c"), QPointF(270, 152));
 }
 
 void tst_EditGesture_drags::shouldFollowTheModifiersDuringADrag()

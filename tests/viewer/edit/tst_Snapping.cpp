@@ -112,6 +112,7 @@ void tst_Snapping::shouldShowTheLinesThatAreMet_data()
         {{Qt::Vertical, 0, -30, 300}, {Qt::Horizontal, 0, -40, 400}});
     row("as near as rounding leaves it", {100.04, 190, 37, 17}, {{Qt::Vertical, 100, 50, 207}});
     row("beside", {100.06, 190, 37, 17}, {});
+    row("a middle on an edge is by chance", {81.5, 190, 37, 17}, {});
     row("to an anchor", {310, 120, 37, 17}, {{Qt::Vertical, 310, 120, 230}});
 }
 
