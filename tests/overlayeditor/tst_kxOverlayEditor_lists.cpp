@@ -163,6 +163,7 @@ void tst_kxOverlayEditor_lists::shouldShowAFamilyThatIsMissing()
     node(3).font = "DejaVu Serif";
     announce(&kxOverlayService::fontChanged, {3});
     QCOMPARE(fonts().currentText(), QString("DejaVu Serif"));
+    QVERIFY(!fonts().currentFont().italic());
     node(3).font = family;
     announce(&kxOverlayService::fontChanged, {3});
     QCOMPARE(fonts().currentText(), family);
