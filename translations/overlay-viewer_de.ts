@@ -1141,6 +1141,10 @@ Ein Lauf ohne Fenster gibt zurück:
         <source>3D view: %1</source>
         <translation>3D-Ansicht: %1</translation>
     </message>
+    <message>
+        <source>View of the scene</source>
+        <translation>Ansicht der Szene</translation>
+    </message>
 </context>
 <context>
     <name>viewer::ViewerSession</name>

@@ -1137,6 +1137,10 @@ A headless run returns:
         <source>3D view: %1</source>
         <translation>3D 视图：%1</translation>
     </message>
+    <message>
+        <source>View of the scene</source>
+        <translation>场景视图</translation>
+    </message>
 </context>
 <context>
     <name>viewer::ViewerSession</name>

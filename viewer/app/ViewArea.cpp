@@ -86,6 +86,7 @@ void ViewArea::resizeEvent(QResizeEvent *)
 void ViewArea::showViewport()
 {
     m_viewport = new Viewport(this);
+    m_viewport->setAccessibleName(tr("View of the scene"));
     connect(m_viewport, &Viewport::frameSwapped, this, &ViewArea::framePainted);
     connect(m_viewport, &Viewport::started, this, &ViewArea::backgroundChanged);
     // The viewport reports from inside its own set-up, where it cannot be deleted.
@@ -99,6 +100,7 @@ void ViewArea::showBackdrop(const QString &reason)
     m_viewport = nullptr;
     m_backdrop = new Backdrop(this);
     m_backdrop->setFocusPolicy(Qt::ClickFocus);
+    m_backdrop->setAccessibleName(tr("View of the scene"));
     connect(m_backdrop, &Backdrop::painted, this, &ViewArea::framePainted);
     m_backdrop->show();
     takeInput();
