@@ -5,6 +5,7 @@
 
 #include <QFileInfo>
 #include <QFont>
+#include <QFontInfo>
 #include <QMap>
 #include <QScopedValueRollback>
 #include <QTimer>
@@ -148,7 +149,7 @@ NodeId Overlays::create(Kind kind, NodeId parent)
                                        : tr("Text");
     if (kind == Kind::Overlay) {
         node.text = tr("Text");
-        node.font = QFont().family();
+        node.font = QFontInfo(QFont()).family();
         node.fontColor = Qt::white;
         node.backgroundColor = Qt::black;
         node.transparency = Qt::white; // invisible

@@ -22,6 +22,7 @@ LONGEST_SOURCE = 500
 UNFINISHED = re.compile(r"\b(?:" + "|".join(("TO" "DO", "FIX" "ME", "X" "XX", "HA" "CK")) + r")\b")
 CLASS = re.compile(r"^(?:class|struct) (?:\w+ )*\w+(?: final)?(?: *:[^:].*)?(?: *\{.*)?$")
 LINK = re.compile(r"\]\(([^)#\s]+)[^)]*\)")
+CODE = re.compile(r"^```.*?^```$", re.MULTILINE | re.DOTALL)
 
 
 def licensed(name, text):
@@ -87,6 +88,7 @@ def dangling(root, texts):
     for name, text in texts:
         if not name.endswith(".md"):
             continue
+        text = CODE.sub(lambda code: "\n" * code.group().count("\n"), text)
         for match in LINK.finditer(text):
             target = match.group(1)
             if "://" in target or (pathlib.Path(root) / name).parent.joinpath(target).exists():

@@ -10,6 +10,7 @@ import unittest
 
 import arrows
 import rules
+import snippets
 
 LICENSE = "".join(f"// {line}\n" for line in rules.LICENSE_LINES)
 
@@ -114,6 +115,51 @@ class Rules(Tree):
         self.add("docs/b.md", "text\n")
         self.assertEqual(self.check("a.md", "[b](docs/b.md#part) [c](https://example.org)\n"), [])
         self.assertEqual(len(self.check("a.md", "[b](docs/c.md)\n")), 1)
+
+    def test_should_take_no_code_for_a_link(self):
+        code = "```cpp\n[this](Id id) {}\n```\n"
+        self.assertEqual(self.check("a.md", code), [])
+        self.add("a.md", code + "[b](docs/c.md)\n")
+        self.assertEqual(rules.faults(self.root), ["a.md:4: the link leads nowhere: docs/c.md"])
+
+
+class Snippets(Tree):
+    SOURCE = "//! [a]\n    int a;\n        int b;\n//! [a]\nint c;\n"
+    QUOTED = "text\n<!-- examples/x.cpp [a] -->\n```cpp\nint a;\n    int b;\n```\nmore\n"
+
+    def check(self, source, document):
+        self.add("examples/x.cpp", source)
+        self.add("docs/a.md", document)
+        return snippets.faults(self.root)
+
+    def test_should_accept_what_is_quoted_word_by_word(self):
+        self.assertEqual(self.check(self.SOURCE, self.QUOTED), [])
+
+    def test_should_find_code_that_has_changed(self):
+        self.assertEqual(self.check(self.SOURCE.replace("int b", "int d"), self.QUOTED),
+                         ["docs/a.md:2: [a] reads differently in examples/x.cpp"])
+
+    def test_should_find_a_quote_of_nothing(self):
+        self.assertIn("docs/a.md:2: there is no [a] in examples/x.cpp", self.check("", self.QUOTED))
+        self.assertEqual(len(self.check(self.SOURCE, self.QUOTED.replace("```cpp\n", ""))), 2)
+
+    def test_should_find_a_mark_that_is_quoted_nowhere(self):
+        self.assertEqual(self.check(self.SOURCE, "text\n"), ["examples/x.cpp: [a] is quoted nowhere"])
+
+    def test_should_find_marks_that_do_not_pair(self):
+        for source, fault in (("//! [b]\n", "[b] does not end"),
+                              ("//! [b]\n//! [c]\n", "[c] begins inside of [b]"),
+                              ("//! [a]\n//! [a]\n", "[a] is marked more than once")):
+            with self.subTest(source=source):
+                self.assertIn(f"examples/x.cpp: {fault}",
+                              self.check(self.SOURCE + source, self.QUOTED))
+
+    def test_should_bring_documents_up_to_date(self):
+        self.check(self.SOURCE.replace("int b", "int d"), self.QUOTED)
+        snippets.update(self.root)
+        self.assertEqual(snippets.faults(self.root), [])
+        text = (self.root / "docs/a.md").read_text(encoding="utf-8")
+        self.assertEqual(text, self.QUOTED.replace("int b", "int d"))
 
 
 if __name__ == "__main__":
