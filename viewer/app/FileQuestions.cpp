@@ -70,4 +70,10 @@ QString FileQuestions::fileToSave(const QString &current)
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
+QString FileQuestions::scriptToRun(const QString &last)
+{
+    return QFileDialog::getOpenFileName(m_window, tr("Run Script"), QFileInfo(last).absolutePath(),
+                                        tr("Scripts (*.js);;All files (*)"));
+}
+
 } // namespace viewer

@@ -36,6 +36,9 @@ public:
     /// A file to save in; empty for none. The user has agreed to overwrite it.
     virtual QString fileToSave(const QString &current);
 
+    /// A script to run; empty for none. `last` is the one that was run before.
+    virtual QString scriptToRun(const QString &last);
+
 private:
     QWidget *m_window;
 };

@@ -5,7 +5,10 @@
 
 namespace viewer {
 
-HostServices::HostServices(MainWindow *window) : m_controller(!window), m_mainWindow(window)
+HostServices::HostServices(MainWindow *window, std::unique_ptr<OverlayService> overlays)
+    : m_controller(!window)
+    , m_overlays(overlays ? std::move(overlays) : std::make_unique<OverlayService>())
+    , m_mainWindow(window)
 {
     if (!window)
         return;

@@ -11,6 +11,7 @@
 #include "viewer/app/PlatformService.h"
 #include "viewer/scene/OverlayService.h"
 
+#include <memory>
 #include <optional>
 
 namespace viewer {
@@ -35,12 +36,12 @@ class HostServices
 {
 public:
     /// A run with a window, or without user interface when `window` is null: modules then find no
-    /// main window and no platform service.
-    explicit HostServices(MainWindow *window);
+    /// main window and no platform service. `overlays` stands in for a plain overlay service.
+    explicit HostServices(MainWindow *window, std::unique_ptr<OverlayService> overlays = nullptr);
     ~HostServices();
     Q_DISABLE_COPY(HostServices)
 
-    OverlayService *overlays() { return &m_overlays; }
+    OverlayService *overlays() { return m_overlays.get(); }
 
     /// Tells all modules that everything is loaded.
     void announceReady();
@@ -49,7 +50,7 @@ private:
     kxBaseService m_base;
     ControllerService m_controller;
     FileIOService m_files;
-    OverlayService m_overlays;
+    const std::unique_ptr<OverlayService> m_overlays;
     MainWindowService m_mainWindow;
     PlatformService m_platform;
 
@@ -57,7 +58,7 @@ private:
     ServiceRegistration<kxBaseService> m_baseEntry{&m_base};
     ServiceRegistration<kxControllerService> m_controllerEntry{&m_controller};
     ServiceRegistration<kxFileIOService> m_filesEntry{&m_files};
-    ServiceRegistration<kxOverlayService> m_overlaysEntry{&m_overlays};
+    ServiceRegistration<kxOverlayService> m_overlaysEntry{m_overlays.get()};
     std::optional<ServiceRegistration<kxMainWindowService>> m_mainWindowEntry;
     std::optional<ServiceRegistration<kxPlatformService>> m_platformEntry;
 };

@@ -9,9 +9,11 @@
 #include "viewer/app/MoveActions.h"
 #include "viewer/app/OverlayLayer.h"
 #include "viewer/app/Screenshot.h"
+#include "viewer/app/ScriptActions.h"
 #include "viewer/app/SearchGuide.h"
 #include "viewer/app/UndoActions.h"
 #include "viewer/app/ViewEditing.h"
+#include "viewer/script/RecordedService.h"
 
 #include <QApplication>
 #include <QDir>
@@ -28,6 +30,12 @@ namespace {
 
 constexpr int StatusTime = 5000;
 
+/// The service of a session that is recorded; null for any other.
+std::unique_ptr<OverlayService> recordedService(const QString &file)
+{
+    return file.isEmpty() ? nullptr : std::make_unique<RecordedService>(file);
+}
+
 } // namespace
 
 ViewerSession::ViewerSession(const CommandLine &line, QSettings *settings,
@@ -36,7 +44,7 @@ ViewerSession::ViewerSession(const CommandLine &line, QSettings *settings,
     , m_settings(settings)
     , m_window(std::make_unique<MainWindow>(line.withoutGl ? ViewArea::Background::Painted
                                                            : ViewArea::Background::OpenGl))
-    , m_services(m_window.get())
+    , m_services(m_window.get(), recordedService(line.record))
     , m_questions(questions ? std::move(questions)
                             : std::make_unique<FileQuestions>(m_window.get()))
 {
@@ -45,6 +53,7 @@ ViewerSession::ViewerSession(const CommandLine &line, QSettings *settings,
     new MoveActions(overlays(), m_window->editMenu());
     m_window->addHistory(new HistoryPanel(overlays(), m_window.get()));
     connectDocument();
+    connectRecording();
     if (m_settings)
         keepJournal();
     connect(m_window.get(), &MainWindow::closing, this, [this] {
@@ -74,6 +83,21 @@ void ViewerSession::start()
     m_window->reportKeyClashes();
     if (m_journal)
         QTimer::singleShot(0, this, &ViewerSession::offerLostWork);
+    // Behind what is due by then.
+    if (!m_line.script.isEmpty())
+        QTimer::singleShot(0, this, &ViewerSession::runGivenScript);
+    else if (!m_line.screenshot.isEmpty())
+        takePictureAndQuit();
+}
+
+void ViewerSession::runScript(const QString &file)
+{
+    m_scripts->run(file);
+}
+
+void ViewerSession::runGivenScript()
+{
+    runScript(m_line.script);
     if (!m_line.screenshot.isEmpty())
         takePictureAndQuit();
 }
@@ -82,6 +106,9 @@ void ViewerSession::connectDocument()
 {
     MainWindow *window = m_window.get();
     new FileActions(&m_document, window->fileMenu());
+    m_scripts = new ScriptActions(overlays(), m_questions.get(), window);
+    connect(m_scripts, &ScriptActions::failed, this,
+            [this](const QString &text) { report(Severity::Error, text); });
     window->setCloseGuard([this] { return m_document.mayGo(); });
     connect(window, &MainWindow::openRequested, &m_document, &SceneDocument::open);
     connect(&m_document, &SceneDocument::dismissed, this,
@@ -99,6 +126,16 @@ void ViewerSession::connectDocument()
     connect(&m_document, &SceneDocument::reported, this, &ViewerSession::report);
     connect(overlays()->history().stack(), &QUndoStack::cleanChanged, window,
             [window](bool clean) { window->setWindowModified(!clean); });
+}
+
+void ViewerSession::connectRecording()
+{
+    auto *recorded = qobject_cast<RecordedService *>(overlays());
+    if (!recorded)
+        return;
+    connect(&m_document, &SceneDocument::pathChanged, recorded, &RecordedService::setScenePath);
+    connect(recorded, &RecordedService::recordingFailed, this,
+            [this](const QString &text) { report(Severity::Error, text); });
 }
 
 QString ViewerSession::journalFolder() const

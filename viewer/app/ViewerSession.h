@@ -20,6 +20,8 @@ class QSettings;
 
 namespace viewer {
 
+class ScriptActions;
+
 /// One run of the viewer with a window: builds window and services, loads modules, opens scenes and
 /// reports what goes wrong, to the user in the window and on standard error. Made by the main
 /// program; goes before the application object.
@@ -41,6 +43,9 @@ public:
     /// Opens a scene file in place of the open scene, which stays as it is when the file is bad.
     bool openScene(const QString &file) { return m_document.load(file); }
 
+    /// Runs a script on the open scene; comes back when it is over.
+    void runScript(const QString &file);
+
     SceneDocument *document() { return &m_document; }
 
     MainWindow *window() const { return m_window.get(); }
@@ -50,8 +55,10 @@ public:
 private:
     void showOverlays();
     void connectDocument();
+    void connectRecording();
     void keepJournal();
     void offerLostWork();
+    void runGivenScript();
     QString journalFolder() const;
     void loadModules();
     void takePictureAndQuit();
@@ -63,6 +70,7 @@ private:
     HostServices m_services;
     const std::unique_ptr<FileQuestions> m_questions;
     SceneDocument m_document{overlays(), m_questions.get(), m_settings};
+    ScriptActions *m_scripts = nullptr;
     QThreadPool m_journalWriter;
     std::unique_ptr<Journal> m_journal; // none without settings
     ImageCache m_images{ImageCache::Reading::InBackground};

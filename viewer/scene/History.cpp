@@ -268,6 +268,7 @@ void History::clear()
         group = {group.sum, group.kind, {}, {}};
     m_stack.clear();
     m_stack.setClean();
+    emit cleared();
 }
 
 void History::setSaved()

@@ -91,6 +91,9 @@ Q_SIGNALS:
     void closed();
     void rolledBack();
 
+    /// All steps are forgotten, for another scene.
+    void cleared();
+
     /// The scene is about to go one step back or forth.
     void restoring(viewer::SceneChange::Direction direction);
 

@@ -126,11 +126,15 @@ public:
 
     /// Gives overlays an offset each, as moving several of them in the view does: one announcement,
     /// and one step for as long as the same overlays are moved on.
-    void setOffsets(const QVector<NodeOffset> &offsets);
+    virtual void setOffsets(const QVector<NodeOffset> &offsets);
 
 Q_SIGNALS:
     /// An image file is to be read anew, since its path was set; sent before imageChanged().
     void imageFileSet(const QString &path);
+
+protected:
+    /// The absolute path that a path given to setImage() means.
+    QString imageFile(const QString &path) const;
 
 private:
     friend class StepGroup;
@@ -164,7 +168,6 @@ private:
     void write(Operation operation, Property property, const QRPC::NodeList &nodes,
                const PropertyValue &value);
     void announceValue(Property property, const QRPC::NodeList &nodes);
-    QString imageFile(const QString &path) const;
 
     // nodes
     Node newNode(NodeKind kind);

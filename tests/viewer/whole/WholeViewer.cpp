@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDockWidget>
+#include <QFile>
 #include <QMenu>
 #include <QScreen>
 #include <QTest>
@@ -236,6 +237,11 @@ void WholeViewer::visitDialogs()
     visitModal("recovery", [&] { questions.aboutRecovery("1.json", "1"); });
     visitModal("open a scene", [&] { questions.fileToOpen(m_folder.path()); });
     visitModal("save a scene", [&] { questions.fileToSave(QString()); });
+    visitModal("choose a script", [&] { questions.scriptToRun(QString()); });
+    QFile endless(m_folder.filePath("1.js"));
+    if (endless.open(QIODevice::WriteOnly) && endless.write("while (true);") > 0)
+        endless.close();
+    visitModal("a script is running", [&] { m_session->runScript(endless.fileName()); });
     select({"4"});
     visitModal("open an image", [&] { window->findChild<QToolButton *>("loadTexture")->click(); });
     select({"1"});
