@@ -514,6 +514,14 @@ Ein Lauf ohne Fenster gibt zurück:
         <source>untitled.json</source>
         <translation>unbenannt.json</translation>
     </message>
+    <message>
+        <source>Run Script</source>
+        <translation>Skript ausführen</translation>
+    </message>
+    <message>
+        <source>Scripts (*.js);;All files (*)</source>
+        <translation>Skripte (*.js);;Alle Dateien (*)</translation>
+    </message>
 </context>
 <context>
     <name>viewer::GuideWindow</name>
@@ -831,6 +839,13 @@ Ein Lauf ohne Fenster gibt zurück:
     </message>
 </context>
 <context>
+    <name>viewer::RecordedService</name>
+    <message>
+        <source>The recording &quot;%1&quot; cannot be written: %2</source>
+        <translation>Die Aufzeichnung „%1“ kann nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
     <name>viewer::SceneDocument</name>
     <message numerus="yes">
         <source>... and %n more</source>
@@ -946,6 +961,23 @@ Ein Lauf ohne Fenster gibt zurück:
     </message>
 </context>
 <context>
+    <name>viewer::ScriptActions</name>
+    <message>
+        <source>R&amp;un Script…</source>
+        <translation>Skript a&amp;usführen…</translation>
+    </message>
+    <message>
+        <source>Ran %1</source>
+        <translation>%1 ausgeführt</translation>
+    </message>
+    <message>
+        <source>%1
+The scene is as it was before.</source>
+        <translation>%1
+Die Szene ist, wie sie vorher war.</translation>
+    </message>
+</context>
+<context>
     <name>viewer::ScriptBridge</name>
     <message>
         <source>readText(path) takes one string, the path of a file.</source>
@@ -993,6 +1025,25 @@ Ein Lauf ohne Fenster gibt zurück:
     <message>
         <source>%1: &quot;%2&quot; must be a point, as {x: 0.5, y: 1}.</source>
         <translation>%1: „%2“ muss ein Punkt sein, als {x: 0.5, y: 1}.</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::ScriptInWindow</name>
+    <message>
+        <source>The script &quot;%1&quot; is running.</source>
+        <translation>Das Skript „%1“ läuft.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Run Script</source>
+        <translation>Skript ausführen</translation>
+    </message>
+    <message>
+        <source>The script is being ended.</source>
+        <translation>Das Skript wird beendet.</translation>
     </message>
 </context>
 <context>

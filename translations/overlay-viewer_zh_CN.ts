@@ -514,6 +514,14 @@ A headless run returns:
         <source>untitled.json</source>
         <translation>未命名.json</translation>
     </message>
+    <message>
+        <source>Run Script</source>
+        <translation>运行脚本</translation>
+    </message>
+    <message>
+        <source>Scripts (*.js);;All files (*)</source>
+        <translation>脚本 (*.js);;所有文件 (*)</translation>
+    </message>
 </context>
 <context>
     <name>viewer::GuideWindow</name>
@@ -831,6 +839,13 @@ A headless run returns:
     </message>
 </context>
 <context>
+    <name>viewer::RecordedService</name>
+    <message>
+        <source>The recording &quot;%1&quot; cannot be written: %2</source>
+        <translation>无法写入录制文件“%1”：%2</translation>
+    </message>
+</context>
+<context>
     <name>viewer::SceneDocument</name>
     <message numerus="yes">
         <source>... and %n more</source>
@@ -945,6 +960,23 @@ A headless run returns:
     </message>
 </context>
 <context>
+    <name>viewer::ScriptActions</name>
+    <message>
+        <source>R&amp;un Script…</source>
+        <translation>运行脚本(&amp;U)…</translation>
+    </message>
+    <message>
+        <source>Ran %1</source>
+        <translation>已运行 %1</translation>
+    </message>
+    <message>
+        <source>%1
+The scene is as it was before.</source>
+        <translation>%1
+场景保持原样。</translation>
+    </message>
+</context>
+<context>
     <name>viewer::ScriptBridge</name>
     <message>
         <source>readText(path) takes one string, the path of a file.</source>
@@ -992,6 +1024,25 @@ A headless run returns:
     <message>
         <source>%1: &quot;%2&quot; must be a point, as {x: 0.5, y: 1}.</source>
         <translation>%1：“%2”必须是 {x: 0.5, y: 1} 形式的点。</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::ScriptInWindow</name>
+    <message>
+        <source>The script &quot;%1&quot; is running.</source>
+        <translation>脚本“%1”正在运行。</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Run Script</source>
+        <translation>运行脚本</translation>
+    </message>
+    <message>
+        <source>The script is being ended.</source>
+        <translation>正在结束脚本。</translation>
     </message>
 </context>
 <context>
