@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QMenu>
 #include <QMenuBar>
+#include <QRegularExpression>
 
 namespace viewer {
 
@@ -13,9 +14,11 @@ namespace {
 
 constexpr int Modifiers = int(Qt::KeyboardModifierMask);
 
+/// The name of a command alone. Scripts without Latin letters have the menu's key behind it: "保存(S)".
 QString plainText(const QAction &action)
 {
-    return action.iconText().remove(QStringLiteral("…"));
+    static const QRegularExpression key(QStringLiteral("\\([A-Z0-9]\\)$"));
+    return action.iconText().remove(QStringLiteral("…")).remove(key);
 }
 
 bool actsIn(KeyScope scope, const QAction &action)

@@ -44,7 +44,8 @@ ShortcutsDialog::ShortcutsDialog(const QVector<kxShortcut::Entry> &keys, QWidget
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     filter(QString());
     m_search->setFocus();
-    resize(sizeHint().expandedTo(fontMetrics().averageCharWidth() * QSize(60, 70)));
+    const QSize usual = sizeHint().expandedTo(fontMetrics().averageCharWidth() * QSize(60, 70));
+    resize(parent ? usual.boundedTo(parent->window()->size()) : usual);
 }
 
 void ShortcutsDialog::fill(const QVector<kxShortcut::Entry> &keys)

@@ -5,10 +5,14 @@
 
 #include "viewer/app/SharedFiles.h"
 
+#include <QFontMetricsF>
+#include <QGuiApplication>
 #include <QImage>
+#include <QPalette>
 #include <QRegularExpression>
 #include <QTextBlock>
 #include <QTextCursor>
+#include <QTextTable>
 #include <QUrl>
 
 #include <algorithm>
@@ -56,6 +60,8 @@ UserGuide::UserGuide(const QString &markdown, const QString &folder, QObject *pa
     setBaseUrl(QUrl::fromLocalFile(folder + QLatin1Char('/')));
     setMarkdown(withMarks(markdown));
     readHeadings();
+    layOut();
+    layOutTables();
     setUndoRedoEnabled(false);
 }
 
@@ -79,6 +85,42 @@ QVariant UserGuide::loadResource(int type, const QUrl &name)
     return picture.width() > WidestPicture
                ? picture.scaledToWidth(WidestPicture, Qt::SmoothTransformation)
                : picture;
+}
+
+/// Markdown says nothing of room: paragraphs would stand line on line.
+void UserGuide::layOut()
+{
+    const qreal em = QFontMetricsF(defaultFont()).height();
+    for (QTextBlock block = begin(); block.isValid(); block = block.next()) {
+        QTextCursor cursor(block);
+        if (cursor.currentTable())
+            continue;
+        const int level = block.blockFormat().headingLevel();
+        QTextBlockFormat format;
+        format.setTopMargin(level > 1 ? 1.4 * em : 0);
+        format.setBottomMargin(block.textList() ? 0.2 * em : 0.6 * em);
+        format.setLineHeight(120, QTextBlockFormat::ProportionalHeight);
+        cursor.mergeBlockFormat(format);
+    }
+}
+
+void UserGuide::layOutTables()
+{
+    const QList<QTextFrame *> frames = rootFrame()->childFrames();
+    for (QTextFrame *frame : frames) {
+        auto *table = qobject_cast<QTextTable *>(frame);
+        if (!table)
+            continue;
+        QTextTableFormat format = table->format();
+        format.setBorderCollapse(true);
+        format.setBorder(1);
+        format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+        format.setBorderBrush(QGuiApplication::palette().mid());
+        format.setCellPadding(QFontMetricsF(defaultFont()).height() / 3);
+        format.setTopMargin(QFontMetricsF(defaultFont()).height() / 2);
+        format.setBottomMargin(QFontMetricsF(defaultFont()).height());
+        table->setFormat(format);
+    }
 }
 
 void UserGuide::readHeadings()

@@ -46,6 +46,8 @@ protected:
 private:
     void readHeadings();
     void setAnchors(const QTextBlock &block, const QStringList &anchors);
+    void layOut();
+    void layOutTables();
 
     QVector<Heading> m_headings;
 };

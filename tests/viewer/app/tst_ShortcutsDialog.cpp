@@ -57,6 +57,7 @@ private Q_SLOTS:
     void shouldFindByCommandKeyOrCategory_data();
     void shouldFindByCommandKeyOrCategory();
     void shouldReadTheKeysOfMenus();
+    void shouldNameACommandWithoutTheKeyBehindItsName();
     void shouldNameCommandsAlikeWhateverTheMenuSays();
     void shouldLeaveOutKeysOfOneWidgetWhereTheWholeWindowIsMeant();
     void shouldNameClashes();
@@ -135,6 +136,19 @@ void tst_ShortcutsDialog::shouldFindByCommandKeyOrCategory()
     QCOMPARE(count == "No shortcut matches.", found.isEmpty());
     dialog.findChild<QKXSearchBox *>()->clear();
     QCOMPARE(rowsOf(dialog).size(), 2);
+}
+
+void tst_ShortcutsDialog::shouldNameACommandWithoutTheKeyBehindItsName()
+{
+    QMenuBar bar;
+    QMenu *menu = bar.addMenu("menu");
+    for (const char *text : {"保存(&S)", "打开(&O)…", "Fit (all)"})
+        menu->addAction(text)->setShortcut(Qt::Key_F5);
+    QStringList names;
+    const QVector<kxShortcut::Entry> keys = menuKeys(bar, QString());
+    for (const kxShortcut::Entry &key : keys)
+        names.append(key.description);
+    QCOMPARE(names, QStringList({"保存", "打开", "Fit (all)"}));
 }
 
 void tst_ShortcutsDialog::shouldReadTheKeysOfMenus()
