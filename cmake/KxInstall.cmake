@@ -63,4 +63,4 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # Where the package's own library is found.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${CMAKE_BINARY_DIR}/bin")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-dejavu-core, qttranslations5-l10n")
-set(CPACK_DEBIAN_PACKAGE_SUGGESTS "qtbase5-dev, cmake")
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "qtbase5-dev, cmake, fonts-noto-cjk")

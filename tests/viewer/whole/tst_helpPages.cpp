@@ -71,6 +71,8 @@ void tst_helpPages::shouldOpenThePageOfThePanel()
     panel->setFloating(true);
     QCOMPARE(pageAt(window, tree), QString("The panel \"Overlays\""));
     panel->setFloating(false);
+    auto *view = viewer.session().window()->viewArea()->background();
+    QCOMPARE(pageAt(window, view), QString("Working in the view"));
     window->setFocus();
     QCOMPARE(pageAt(window, window), QString("User guide"));
 }
