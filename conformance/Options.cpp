@@ -48,7 +48,7 @@ Options::Options(const QStringList &arguments)
         outcome = Outcome::Answer;
         text = parser.helpText() + s_exitCodes;
     } else if (!parser.positionalArguments().isEmpty()) {
-        fail(QStringLiteral("'%1' is no option").arg(parser.positionalArguments().first()));
+        fail(QStringLiteral("'%1' is no option").arg(parser.positionalArguments().constFirst()));
     } else if (seconds < 1) {
         fail("the timeout has to be a number of seconds");
     } else if (!list && plugin.isEmpty() == host.isEmpty()) {

@@ -37,11 +37,10 @@ void send(int pipe, const QJsonObject &object)
 /// What toolkit and library print is not part of the report, but for a reason to end.
 void closeOutput()
 {
-    qInstallMessageHandler(
-        [](QtMsgType type, const QMessageLogContext &, const QString &message) {
-            if (type == QtFatalMsg)
-                std::fprintf(stderr, "%s\n", qPrintable(message));
-        });
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &message) {
+        if (type == QtFatalMsg)
+            std::fprintf(stderr, "%s\n", qPrintable(message));
+    });
     const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
     dup2(nowhere, STDOUT_FILENO);
     close(nowhere);

@@ -83,7 +83,7 @@ ModuleChecks payloadChecks()
          [](ModuleBench &bench) {
              bench.open("a2");
              const auto data = mimeOf(bench, {2});
-             expect("it is there", data->hasFormat(QStandardItemModel().mimeTypes().first()));
+             expect("it is there", data->hasFormat(QStandardItemModel().mimeTypes().constFirst()));
          }},
         {"drag.nothing", "No rows give no data.",
          [](ModuleBench &bench) {

@@ -17,6 +17,7 @@
 #include <QMap>
 #include <QPainter>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace viewer {
@@ -175,7 +176,7 @@ HeadlessRun::ExitCode HeadlessRun::reportUnreadableImages()
                    : tr("Warning: the image \"%1\" cannot be read, but is not shown either.")
                          .arg(shown));
     }
-    return files.values().contains(true) ? ImageMissing : Done;
+    return std::find(files.begin(), files.end(), true) != files.end() ? ImageMissing : Done;
 }
 
 } // namespace viewer

@@ -42,8 +42,9 @@ QString withMarks(QString markdown)
 /// The name that links give to a heading.
 QString slug(const QString &heading)
 {
+    const QString letters = heading.toLower();
     QString name;
-    for (const QChar letter : heading.toLower()) {
+    for (const QChar letter : letters) {
         if (letter.isLetterOrNumber() || letter == QLatin1Char('-') || letter == QLatin1Char('_'))
             name += letter;
         else if (letter.isSpace())

@@ -237,7 +237,8 @@ void tst_kxOverlayQtModel_drop::shouldAnswerWhatTheBaseAnswers()
     service().setApplies(false);
     const auto whole = drag({2});
     QMimeData data;
-    for (const QString &format : whole->formats()) {
+    const QStringList formats = whole->formats();
+    for (const QString &format : formats) {
         if (format == overlayItems ? hasRecords : hasRows)
             data.setData(format, whole->data(format));
     }

@@ -52,7 +52,7 @@ void tst_ReadOut::shouldWriteNumbersAsTheUserDoes()
     QLocale::setDefault(QLocale(QLocale::German));
     viewer::Overlay overlay;
     overlay.offset = {1.5, 0};
-    const QString line = viewer::readOutOf(overlay).first();
+    const QString line = viewer::readOutOf(overlay).constFirst();
     QLocale::setDefault(before);
     QCOMPARE(line, QString("Offset: x 1,5 pt, y 0 pt"));
 }

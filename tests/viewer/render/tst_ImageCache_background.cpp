@@ -134,7 +134,7 @@ void tst_ImageCache_background::shouldShowAFileThatReplacesAnother()
 {
     const QString file = picture("a.png", Qt::red);
     TRY_COMPARE(colorOf(file), QColor(Qt::red));
-    for (const QColor color : {Qt::blue, Qt::green}) {
+    for (const Qt::GlobalColor color : {Qt::blue, Qt::green}) {
         const QString other = picture("other.png", color);
         QCOMPARE(rename(qPrintable(other), qPrintable(file)), 0);
         TRY_COMPARE(colorOf(file), color);

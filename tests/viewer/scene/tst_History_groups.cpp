@@ -62,9 +62,9 @@ void tst_History_groups::shouldAnnounceChangesOfOneKindAsOne()
     {
         const StepGroup group(&service(), "Fill");
         for (const char *name : {"x", "y"}) {
-            const NodeId id = service().createOverlay(ids("g").first());
+            const NodeId id = service().createOverlay(ids("g").constFirst());
             service().setName({id}, name);
-            service().setText({id, ids("a").first()}, name);
+            service().setText({id, ids("a").constFirst()}, name);
         }
     }
     signalLines();

@@ -45,6 +45,7 @@ private Q_SLOTS:
 
 private:
     bool m_isInsideMove = false;
+    QString m_nameGivenInReset;
 };
 
 void tst_OverlayService_nodes::shouldStartWithARootAlone()
@@ -179,11 +180,11 @@ void tst_OverlayService_nodes::shouldCountOnFromTheNamesOfAnOpenedScene()
         opened.append(Scene::RootId, opened.add(node));
     }
     open("");
-    QString inReset;
-    connect(&service(), &kxOverlayService::modelReset, this,
-            [this, &inReset] { inReset = service().getName(service().createOverlay(id("root"))); });
+    connect(&service(), &kxOverlayService::modelReset, this, [this] {
+        m_nameGivenInReset = service().getName(service().createOverlay(id("root")));
+    });
     service().setScene(opened);
-    QCOMPARE(inReset, QString("Text 13"));
+    QCOMPARE(m_nameGivenInReset, QString("Text 13"));
     QCOMPARE(service().getName(service().createGroup(id("root"))), QString("Group 1"));
 }
 

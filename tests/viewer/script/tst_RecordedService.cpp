@@ -175,7 +175,7 @@ void tst_RecordedService::shouldWriteWhatChangesSomething()
     m_service->setFontColor(ids("a"), QColor::fromRgbF(0.1, 0.2, 0.3, 0.4));
     m_service->setImage(ids("a"), "/x.png");
     m_service->setImage(ids("a"), "/x.png");
-    m_service->moveNodes(ids("a"), ids("g").first(), -1);
+    m_service->moveNodes(ids("a"), ids("g").constFirst(), -1);
     QCOMPARE(recorded(), QString("// Recorded on /scenes/titles.json\n"
                                  "history.recordedAt(5);\n"
                                  "overlays.setText([2, 4], \"Ä\\n\\\"x\\\"\");\n"

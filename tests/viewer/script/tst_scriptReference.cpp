@@ -128,8 +128,9 @@ void tst_scriptReference::shouldShowAnExampleOfEach()
 {
     const QStringList sections = contentOf(SCRIPTING_DOCUMENT).split("\n### `").mid(1);
     QVERIFY(sections.size() > 60);
+    static const QRegularExpression callEnd("[ (]");
     for (const QString &section : sections) {
-        const QString call = section.left(section.indexOf(QRegularExpression("[ (]")));
+        const QString call = section.left(section.indexOf(callEnd));
         const QString code = section.section("```js", 1, 1).section("```", 0, 0);
         QVERIFY2(code.contains(call), qPrintable(call));
     }
@@ -144,6 +145,7 @@ void tst_scriptReference::shouldShowExamplesThatRun()
     };
     QVERIFY(write("names.csv", "Ada\nGrace\n"));
     const QStringList code = contentOf(SCRIPTING_DOCUMENT).split("```js");
+    static const QRegularExpression printedComment("print\\(.*\\); // (.*)\n");
     const QString names = code.at(2).section("```", 0, 0);
     for (int i = 1; i < code.size(); ++i) {
         OverlayService service;
@@ -158,8 +160,7 @@ void tst_scriptReference::shouldShowExamplesThatRun()
         const ScriptOutcome outcome = run.run(folder.filePath("example.js"));
         QVERIFY2(outcome.text.isEmpty(), qPrintable(outcome.text + example));
         // What an example says that it prints.
-        const QString expected =
-            QRegularExpression("print\\(.*\\); // (.*)\n").match(example).captured(1);
+        const QString expected = printedComment.match(example).captured(1);
         if (!expected.isEmpty())
             QCOMPARE(printed.value(0), expected);
     }
