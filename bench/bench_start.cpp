@@ -120,8 +120,9 @@ QVector<int> timesOf(const Side &side)
     child.start(QCoreApplication::applicationFilePath(), arguments + side.arguments);
     QVector<int> times;
     if (child.waitForFinished() && child.exitCode() == 0) {
-        const QList<QByteArray> lines = child.readAllStandardOutput().split('\n');
-        for (const QByteArray &line : lines.mid(0, int(std::size(Stages))))
+        const QList<QByteArray> lines =
+            child.readAllStandardOutput().split('\n').mid(0, int(std::size(Stages)));
+        for (const QByteArray &line : lines)
             times.append(line.toInt());
     }
     return times;

@@ -100,7 +100,7 @@ void tst_ScriptActions::shouldShowWhatIsPrinted()
     run("print('a', 1); print('b')");
     QCOMPARE(notices(), QStringList("a 1\nb"));
     run("for (let i = 0; i < 100; ++i) print(i)");
-    const QStringList lines = notices().first().split('\n');
+    const QStringList lines = notices().constFirst().split('\n');
     QCOMPARE(lines.size(), 12);
     QCOMPARE(lines.first(), QString("…"));
     QCOMPARE(lines.at(1), QString("89"));
@@ -172,8 +172,8 @@ void tst_ScriptActions::shouldEndAnEndlessScript()
     run(script);
     QCOMPARE(notices().size(), 1);
     QVERIFY2(
-        notices().first().endsWith("titles.js\" was interrupted.\nThe scene is as it was before."),
-        qPrintable(notices().first()));
+        notices().constFirst().endsWith("titles.js\" was interrupted.\nThe scene is as it was before."),
+        qPrintable(notices().constFirst()));
     QCOMPARE(m_service->getChildCount(1), 0);
     QVERIFY(!m_service->history().stack()->canUndo());
 }
