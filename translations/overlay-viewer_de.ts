@@ -260,12 +260,43 @@
         <source>Move %1 overlays in the view</source>
         <translation>%1 Overlays in der Ansicht verschieben</translation>
     </message>
+    <message>
+        <source>Paste &quot;%1&quot;</source>
+        <translation>„%1“ einfügen</translation>
+    </message>
+    <message>
+        <source>Paste %1 items</source>
+        <translation>%1 Elemente einfügen</translation>
+    </message>
+    <message>
+        <source>Cut &quot;%1&quot;</source>
+        <translation>„%1“ ausschneiden</translation>
+    </message>
+    <message>
+        <source>Cut %1 items</source>
+        <translation>%1 Elemente ausschneiden</translation>
+    </message>
 </context>
 <context>
     <name>viewer</name>
     <message>
         <source>Overlay Viewer</source>
         <translation>Overlay-Betrachter</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::ClipboardActions</name>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Ausschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
     </message>
 </context>
 <context>
@@ -843,6 +874,25 @@ Ein Lauf ohne Fenster gibt zurück:
     <message>
         <source>The recording &quot;%1&quot; cannot be written: %2</source>
         <translation>Die Aufzeichnung „%1“ kann nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::SceneClipboard</name>
+    <message>
+        <source>These overlays cannot be copied: they lie in too many groups.</source>
+        <translation>Diese Overlays können nicht kopiert werden: Sie liegen in zu vielen Gruppen.</translation>
+    </message>
+    <message>
+        <source>There are no overlays on the clipboard.</source>
+        <translation>In der Zwischenablage sind keine Overlays.</translation>
+    </message>
+    <message>
+        <source>Clipboard</source>
+        <translation>Zwischenablage</translation>
+    </message>
+    <message>
+        <source>The scene that was copied is empty.</source>
+        <translation>Die kopierte Szene ist leer.</translation>
     </message>
 </context>
 <context>

@@ -260,12 +260,43 @@
         <source>Move %1 overlays in the view</source>
         <translation>在视图中移动 %1 个叠加层</translation>
     </message>
+    <message>
+        <source>Paste &quot;%1&quot;</source>
+        <translation>粘贴“%1”</translation>
+    </message>
+    <message>
+        <source>Paste %1 items</source>
+        <translation>粘贴 %1 个项目</translation>
+    </message>
+    <message>
+        <source>Cut &quot;%1&quot;</source>
+        <translation>剪切“%1”</translation>
+    </message>
+    <message>
+        <source>Cut %1 items</source>
+        <translation>剪切 %1 个项目</translation>
+    </message>
 </context>
 <context>
     <name>viewer</name>
     <message>
         <source>Overlay Viewer</source>
         <translation>叠加层查看器</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::ClipboardActions</name>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>剪切(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>粘贴(&amp;P)</translation>
     </message>
 </context>
 <context>
@@ -843,6 +874,25 @@ A headless run returns:
     <message>
         <source>The recording &quot;%1&quot; cannot be written: %2</source>
         <translation>无法写入录制文件“%1”：%2</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::SceneClipboard</name>
+    <message>
+        <source>These overlays cannot be copied: they lie in too many groups.</source>
+        <translation>无法复制这些叠加层：它们所在的组层数过多。</translation>
+    </message>
+    <message>
+        <source>There are no overlays on the clipboard.</source>
+        <translation>剪贴板中没有叠加层。</translation>
+    </message>
+    <message>
+        <source>Clipboard</source>
+        <translation>剪贴板</translation>
+    </message>
+    <message>
+        <source>The scene that was copied is empty.</source>
+        <translation>所复制的场景为空。</translation>
     </message>
 </context>
 <context>

@@ -3,19 +3,20 @@
 
 #include "viewer/app/MoveActions.h"
 
-#include <QApplication>
 #include <QMenu>
-#include <QMenuBar>
 
 namespace viewer {
 
-MoveActions::MoveActions(OverlayService *service, QMenu *menu) : QObject(menu), m_service(service)
+MoveActions::MoveActions(OverlayService *service, const EditFocus *focus, QMenu *menu)
+    : QObject(menu)
+    , m_service(service)
+    , m_focus(focus)
 {
     add(menu, MoveStep::Up, tr("Move &Up"), "moveUp", Qt::ALT + Qt::Key_Up);
     add(menu, MoveStep::Down, tr("Move &Down"), "moveDown", Qt::ALT + Qt::Key_Down);
     add(menu, MoveStep::In, tr("Move &In"), "moveIn", Qt::ALT + Qt::Key_Right);
     add(menu, MoveStep::Out, tr("Move &Out"), "moveOut", Qt::ALT + Qt::Key_Left);
-    connect(qApp, &QApplication::focusChanged, this, &MoveActions::followFocus);
+    connect(focus, &EditFocus::changed, this, &MoveActions::refresh);
     // A view without rows does not tell yet what it shows.
     connect(service, &kxOverlayService::modelReset, this, &MoveActions::refresh,
             Qt::QueuedConnection);
@@ -32,19 +33,9 @@ void MoveActions::add(QMenu *menu, MoveStep step, const QString &text, const cha
     m_actions.append(action);
 }
 
-void MoveActions::followFocus(const QWidget *old, QWidget *now)
-{
-    Q_UNUSED(old)
-    // The menu bar takes the focus while it is used by key, the window manager at any time.
-    if (!now || qobject_cast<QMenuBar *>(now) || qobject_cast<QMenu *>(now))
-        return;
-    m_focus = now;
-    refresh();
-}
-
 void MoveActions::refresh()
 {
-    const bool hasView = !NodeView(m_focus).isNull();
+    const bool hasView = !m_focus->nodeView().isNull();
     for (QAction *action : qAsConst(m_actions))
         action->setEnabled(hasView);
 }
@@ -52,7 +43,7 @@ void MoveActions::refresh()
 /// Rows that are moved are deselected and closed, as far as the view is concerned.
 void MoveActions::move(MoveStep step)
 {
-    NodeView view(m_focus);
+    NodeView view = m_focus->nodeView();
     const QRPC::NodeList nodes = view.selectedNodes();
     const QRPC::NodeList open = view.openNodes();
     const QVector<QRPC::NodeList> groups = siblingsOf(m_service, nodes);

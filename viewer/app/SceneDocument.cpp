@@ -21,16 +21,6 @@ QString recentKey()
     return QStringLiteral("recentFiles");
 }
 
-// A scene with a thousand missing images must not bury the view.
-QString summary(const QStringList &warnings)
-{
-    QString text = warnings.mid(0, MostLines).join(QLatin1Char('\n'));
-    const int more = warnings.size() - MostLines;
-    if (more > 0)
-        text += QLatin1Char('\n') + SceneDocument::tr("... and %n more", nullptr, more);
-    return text;
-}
-
 } // namespace
 
 SceneDocument::SceneDocument(OverlayService *service, FileQuestions *questions, QSettings *settings)
@@ -57,6 +47,15 @@ bool SceneDocument::mayGo()
     const FileQuestions::Answer answer = m_questions->aboutChanges(name());
     return answer == FileQuestions::Answer::Discard
            || (answer == FileQuestions::Answer::Save && save());
+}
+
+QString SceneDocument::summary(const QStringList &warnings)
+{
+    QString text = warnings.mid(0, MostLines).join(QLatin1Char('\n'));
+    const int more = warnings.size() - MostLines;
+    if (more > 0)
+        text += QLatin1Char('\n') + tr("... and %n more", nullptr, more);
+    return text;
 }
 
 void SceneDocument::startNew()

@@ -45,6 +45,10 @@ public:
     /// Puts up a scene that no file holds in this state.
     void setUnsavedScene(Scene scene, const QString &path);
 
+    /// Warnings for the user, shortened: a scene with a thousand missing images must not bury the
+    /// view.
+    static QString summary(const QStringList &warnings);
+
 public Q_SLOTS:
     /// Asks for unsaved changes, then starts an empty scene.
     void startNew();

@@ -4,48 +4,25 @@
 #include "viewer/app/UndoActions.h"
 
 #include "host/kxIconManager.h"
+#include "viewer/app/TextField.h"
 
-#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMouseEvent>
-#include <QPlainTextEdit>
-#include <QTextEdit>
 
 namespace viewer {
 
 namespace {
 
-/// The single line in which a widget takes text, or null.
-const QLineEdit *lineOf(const QObject *widget)
-{
-    if (const auto *line = qobject_cast<const QLineEdit *>(widget))
-        return line;
-    const auto *box = qobject_cast<const QAbstractSpinBox *>(widget);
-    return box ? box->findChild<QLineEdit *>() : nullptr;
-}
-
-const QTextDocument *documentOf(const QObject *widget)
-{
-    if (const auto *edit = qobject_cast<const QTextEdit *>(widget))
-        return edit->document();
-    const auto *edit = qobject_cast<const QPlainTextEdit *>(widget);
-    return edit ? edit->document() : nullptr;
-}
-
 /// Whether a widget takes text and claims the key without having any use for it.
-bool claimsInVain(const QObject *widget, const QKeyEvent &key)
+bool claimsInVain(QObject *widget, const QKeyEvent &key)
 {
     const bool undoes = key.matches(QKeySequence::Undo);
     if (!undoes && !key.matches(QKeySequence::Redo))
         return false;
-    if (const QLineEdit *line = lineOf(widget))
-        return !(undoes ? line->isUndoAvailable() : line->isRedoAvailable());
-    if (const QTextDocument *text = documentOf(widget))
-        return !(undoes ? text->isUndoAvailable() : text->isRedoAvailable());
-    return false;
+    const TextField field(widget);
+    return !field.isNull() && !(undoes ? field.canUndo() : field.canRedo());
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include "viewer/app/ViewerSession.h"
 
+#include "viewer/app/ClipboardActions.h"
 #include "viewer/app/FileActions.h"
 #include "viewer/app/HistoryPanel.h"
 #include "viewer/app/ModuleLoader.h"
@@ -49,8 +50,7 @@ ViewerSession::ViewerSession(const CommandLine &line, QSettings *settings,
                             : std::make_unique<FileQuestions>(m_window.get()))
 {
     showOverlays();
-    new UndoActions(overlays(), m_window->editMenu());
-    new MoveActions(overlays(), m_window->editMenu());
+    fillEditMenu();
     m_window->addHistory(new HistoryPanel(overlays(), m_window.get()));
     connectDocument();
     connectRecording();
@@ -75,6 +75,8 @@ void ViewerSession::start()
         m_window->restoreLayout(*m_settings);
     else
         m_window->useDefaultLayout();
+    // Its first control, a search field, would swallow what is pasted into the scene.
+    m_window->viewArea()->background()->setFocus();
     m_window->show();
     // Modules read the tree when it is announced, and need one that is empty too.
     if (m_line.scene.isEmpty() || !openScene(m_line.scene))
@@ -100,6 +102,15 @@ void ViewerSession::runGivenScript()
     runScript(m_line.script);
     if (!m_line.screenshot.isEmpty())
         takePictureAndQuit();
+}
+
+void ViewerSession::fillEditMenu()
+{
+    QMenu *menu = m_window->editMenu();
+    new UndoActions(overlays(), menu);
+    new ClipboardActions(&m_clipboard, &m_focus, m_editing->selectionOfView(), menu);
+    new MoveActions(overlays(), &m_focus, menu);
+    connect(&m_clipboard, &SceneClipboard::reported, this, &ViewerSession::report);
 }
 
 void ViewerSession::connectDocument()
@@ -191,7 +202,7 @@ void ViewerSession::showOverlays()
         report(Severity::Info, tr("There are more image files than can be watched. When one of the "
                                   "others changes, it is shown within a few seconds."));
     });
-    new ViewEditing(overlays(), &m_painter, m_window->viewArea());
+    m_editing = new ViewEditing(overlays(), &m_painter, m_window->viewArea());
 }
 
 void ViewerSession::loadModules()

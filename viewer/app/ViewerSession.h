@@ -4,8 +4,10 @@
 #pragma once
 
 #include "viewer/app/CommandLine.h"
+#include "viewer/app/EditFocus.h"
 #include "viewer/app/HostServices.h"
 #include "viewer/app/MainWindow.h"
+#include "viewer/app/SceneClipboard.h"
 #include "viewer/app/SceneDocument.h"
 #include "viewer/render/ImageCache.h"
 #include "viewer/render/OverlayPainter.h"
@@ -21,6 +23,7 @@ class QSettings;
 namespace viewer {
 
 class ScriptActions;
+class ViewEditing;
 
 /// One run of the viewer with a window: builds window and services, loads modules, opens scenes and
 /// reports what goes wrong, to the user in the window and on standard error. Made by the main
@@ -54,6 +57,7 @@ public:
 
 private:
     void showOverlays();
+    void fillEditMenu();
     void connectDocument();
     void connectRecording();
     void keepJournal();
@@ -69,6 +73,9 @@ private:
     std::unique_ptr<MainWindow> m_window;
     HostServices m_services;
     const std::unique_ptr<FileQuestions> m_questions;
+    ViewEditing *m_editing = nullptr;
+    EditFocus m_focus;
+    SceneClipboard m_clipboard{overlays()};
     SceneDocument m_document{overlays(), m_questions.get(), m_settings};
     ScriptActions *m_scripts = nullptr;
     QThreadPool m_journalWriter;

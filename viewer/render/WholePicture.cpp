@@ -4,7 +4,6 @@
 #include "viewer/render/WholePicture.h"
 
 #include <QIODevice>
-#include <QXmlStreamReader>
 #include <QtEndian>
 
 #include <cstdlib>
@@ -95,15 +94,6 @@ bool isWholeBmp(QIODevice *file)
            || file->size() >= quint32(number(10)) + bytesPerLine * std::abs(qint64(number(22)));
 }
 
-bool isWholeSvg(QIODevice *file)
-{
-    QXmlStreamReader xml(file);
-    xml.setNamespaceProcessing(false); // as the decoder does
-    while (!xml.atEnd())
-        xml.readNext();
-    return !xml.hasError();
-}
-
 } // namespace
 
 bool isWholePicture(QIODevice *file, const QByteArray &format)
@@ -115,7 +105,7 @@ bool isWholePicture(QIODevice *file, const QByteArray &format)
     };
     static constexpr Check checks[] = {
         {"png", isWholePng}, {"jpeg", isWholeJpeg}, {"jpg", isWholeJpeg},
-        {"gif", isWholeGif}, {"bmp", isWholeBmp},   {"svg", isWholeSvg},
+        {"gif", isWholeGif}, {"bmp", isWholeBmp},
     };
     for (const Check &check : checks) {
         if (format == check.format)

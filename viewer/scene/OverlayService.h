@@ -61,6 +61,12 @@ public:
     /// current one. So a path means one file to whoever draws, shows or writes it, wherever the scene
     /// is saved later.
     void setImageFolder(const QString &folder) { m_imageFolder = folder; }
+    QString imageFolder() const { return m_imageFolder; }
+
+    /// Puts copies of all nodes of another scene before the child at `row`, or to the end where there
+    /// is none. They get new ids, keep their names and values, and are announced as created. Gives
+    /// the tops of the copies; none, and nothing happens, where `parent` cannot hold nodes.
+    virtual QRPC::NodeList insertScene(const Scene &scene, QRPC::NodeId parent, int row);
 
     /// What can be undone, and whether the scene is saved.
     History &history() { return m_history; }
@@ -174,7 +180,6 @@ private:
     void countName(NodeKind kind, const QString &name);
     void announceCreated(const QRPC::NodeList &nodes);
     QRPC::NodeId create(NodeKind kind, QRPC::NodeId parent);
-    QRPC::NodeId copyNode(QRPC::NodeId original);
     QRPC::NodeList copyBehind(QRPC::NodeId parent, const QSet<QRPC::NodeId> &originals);
     void announceMove(const QRPC::NodeList &block, const QRPC::NodeList &enabledChanged);
     void announcePlaces(const QRPC::NodeList &block);

@@ -4,6 +4,7 @@
 #include "viewer/scene/MoveRule.h"
 #include "viewer/scene/NodeLists.h"
 #include "viewer/scene/OverlayService.h"
+#include "viewer/scene/SceneCopy.h"
 
 #include <QScopedValueRollback>
 
@@ -117,29 +118,6 @@ NodeId OverlayService::createSwitch(NodeId parent)
     return create(NodeKind::Switch, parent);
 }
 
-/// Copies a node with all that lies in it; the copy has no parent yet. Ids are given in pre-order.
-NodeId OverlayService::copyNode(NodeId original)
-{
-    NodeId top = 0;
-    std::vector<std::pair<NodeId, NodeId>> pending{{original, 0}}; // original, parent of the copy
-    while (!pending.empty()) {
-        const auto [source, parent] = pending.back();
-        pending.pop_back();
-        Node copy = *m_scene.find(source);
-        const std::vector<NodeId> children = std::move(copy.children);
-        copy.id = copy.parent = copy.shown = 0;
-        copy.children.clear();
-        const NodeId id = m_scene.add(std::move(copy));
-        if (parent == 0)
-            top = id;
-        else
-            m_scene.append(parent, id);
-        for (auto child = children.rbegin(); child != children.rend(); ++child)
-            pending.emplace_back(*child, id);
-    }
-    return top;
-}
-
 QHash<NodeId, QSet<NodeId>> OverlayService::byParent(const NodeList &nodes) const
 {
     QHash<NodeId, QSet<NodeId>> children;
@@ -166,7 +144,7 @@ NodeList OverlayService::copyBehind(NodeId parent, const QSet<NodeId> &originals
         result.push_back(child);
         if (!originals.contains(child))
             continue;
-        const NodeId copy = copyNode(child);
+        const NodeId copy = copyTree(m_scene, child, &m_scene);
         m_scene.setName(copy, nameOfCopy(m_scene.find(child)->name));
         copies.append(copy);
         run.push_back(copy);
@@ -195,6 +173,27 @@ void OverlayService::duplicateNodes(const NodeList &nodes)
         recordAdded(Operation::Duplicate, copies);
     announceStructure(&kxOverlayService::nodesAdded, copies);
     announceCreated(copies);
+}
+
+NodeList OverlayService::insertScene(const Scene &scene, NodeId parent, int row)
+{
+    sendPostponed();
+    const Node *target = m_scene.find(parent);
+    if (!target || !target->canHoldNodes() || scene.root().children.empty())
+        return {};
+    NodeList copies;
+    for (const NodeId original : scene.root().children)
+        copies.append(copyTree(scene, original, &m_scene));
+    scene.forEach([this](const Node &node) { countName(node.kind, node.name); });
+    std::vector<NodeId> children = m_scene.find(parent)->children;
+    const bool isEnd = row < 0 || std::size_t(row) > children.size();
+    children.insert(isEnd ? children.end() : children.begin() + row, copies.cbegin(),
+                    copies.cend());
+    m_scene.setChildren(parent, std::move(children));
+    recordAdded(Operation::Paste, copies);
+    announceStructure(&kxOverlayService::nodesAdded, copies);
+    announceStructure(&kxOverlayService::nodesCreated, copies);
+    return copies;
 }
 
 void OverlayService::removeFromParents(const NodeList &nodes)

@@ -204,10 +204,10 @@ QString overflowFault(const Json::out_of_range &error, const QByteArray &content
                       .arg(QString::fromLatin1(number)));
 }
 
-SceneReading failed(const QString &path, const QString &text)
+SceneReading failed(const QString &name, const QString &text)
 {
     SceneReading reading;
-    reading.error = QDir::toNativeSeparators(path) + QLatin1String(": ") + text;
+    reading.error = QDir::toNativeSeparators(name) + QLatin1String(": ") + text;
     return reading;
 }
 
@@ -235,26 +235,28 @@ SceneReading SceneReader::read(const QString &path)
     return parse(content, path);
 }
 
-SceneReading SceneReader::parse(const QByteArray &content, const QString &path)
+SceneReading SceneReader::parse(const QByteArray &content, const QString &path,
+                                const QString &otherName)
 {
+    const QString name = otherName.isEmpty() ? path : otherName;
     const QString excess = JsonBounds(content).fault();
     if (!excess.isEmpty())
-        return failed(path, excess);
+        return failed(name, excess);
     SceneBuilder builder(path);
     try {
         builder.build(Json::parse(content.cbegin(), content.cend()));
     } catch (const Json::parse_error &error) {
-        return failed(path, syntaxFault(error));
+        return failed(name, syntaxFault(error));
     } catch (const Json::out_of_range &error) {
-        return failed(path, overflowFault(error, content));
+        return failed(name, overflowFault(error, content));
     } catch (const SceneFault &fault) {
         const QString place = builder.place() + fault.place;
-        return failed(path,
+        return failed(name,
                       place.isEmpty() ? fault.text : place + QLatin1String(": ") + fault.text);
     }
     SceneReading reading;
     reading.scene = std::move(builder.scene);
-    const QString file = QDir::toNativeSeparators(path) + QLatin1String(": ");
+    const QString file = QDir::toNativeSeparators(name) + QLatin1String(": ");
     for (const QString &warning : qAsConst(builder.warnings))
         reading.warnings.append(file + warning);
     for (const QString &warning : qAsConst(builder.missingImages))

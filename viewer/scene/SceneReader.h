@@ -36,8 +36,10 @@ class SceneReader
 public:
     static SceneReading read(const QString &path);
 
-    /// Reads the content of a file. `path` serves messages and relative image paths.
-    static SceneReading parse(const QByteArray &content, const QString &path);
+    /// Reads the content of a file. `path` serves relative image paths, and messages unless they are
+    /// to call it by another name.
+    static SceneReading parse(const QByteArray &content, const QString &path,
+                              const QString &name = QString());
 };
 
 } // namespace viewer

@@ -56,6 +56,7 @@ public:
     SceneText(const Scene &scene, const QString &path)
         : m_scene(scene)
         , m_folder(QFileInfo(path).absoluteDir())
+        , m_hasFolder(!path.isEmpty())
     {
     }
 
@@ -84,6 +85,7 @@ private:
 
     const Scene &m_scene;
     QDir m_folder;
+    bool m_hasFolder;
     QByteArray m_text;
     std::vector<Level> m_levels;
     int m_indent = 0;
@@ -200,7 +202,7 @@ void SceneText::writeOverlay(const Node &node)
 
 QByteArray SceneText::imagePath(const QString &path) const
 {
-    const bool isFile = !path.isEmpty() && !path.startsWith(QLatin1Char(':'));
+    const bool isFile = m_hasFolder && !path.isEmpty() && !path.startsWith(QLatin1Char(':'));
     return jsonText(isFile ? m_folder.relativeFilePath(path) : path);
 }
 

@@ -34,7 +34,7 @@ public:
     static SceneWriting write(const Scene &scene, const QString &path);
 
     /// The content of the file; null when the scene nests deeper than a file may. `path` is what
-    /// image paths are made relative to.
+    /// image paths are made relative to; they stay as they are where it is empty.
     static QByteArray content(const Scene &scene, const QString &path, QStringList *warnings);
 };
 

@@ -9,6 +9,7 @@
 
 #include <QDir>
 #include <QDockWidget>
+#include <QLineEdit>
 #include <QPainter>
 #include <QSettings>
 #include <QSignalSpy>
@@ -30,6 +31,7 @@ private Q_SLOTS:
     void shouldAnnounceATreeWhereThereIsNoScene();
     void shouldDestroyTheWindowWhileServicesAreThere();
     void shouldRunWithoutItsModules();
+    void shouldGiveTheKeyboardToTheView();
     void shouldShowTheScene();
     void shouldDrawTheSamePixelsAsAnExport();
     void shouldReadAnImageAnewWhenItsPathIsSet();
@@ -171,6 +173,21 @@ void tst_ViewerSession::shouldRunWithoutItsModules()
     QVERIFY(notices(session).constFirst().contains("/no/such/module.so"));
     QVERIFY(session.window()->statusBar()->currentMessage().contains("/no/such/module.so"));
     QVERIFY(session.openScene(goodScene()));
+}
+
+void tst_ViewerSession::shouldGiveTheKeyboardToTheView()
+{
+    ViewerSession session(line({}), nullptr);
+    QLineEdit field(session.window());
+    session.start();
+    QWidget *view = session.window()->viewArea()->background();
+    QCOMPARE(session.window()->focusWidget(), view);
+    field.setFocus();
+    QCOMPARE(session.window()->focusWidget(), &field);
+    QVERIFY(QTest::qWaitForWindowActive(session.window()));
+    QTest::mouseClick(session.window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                      session.window()->viewArea()->geometry().center());
+    QCOMPARE(session.window()->focusWidget(), view);
 }
 
 void tst_ViewerSession::shouldShowTheScene()

@@ -3,6 +3,8 @@
 
 #include "tests/viewer/scene/RandomEdits.h"
 
+#include "viewer/scene/SceneCopy.h"
+
 using QRPC::NodeId;
 using QRPC::NodeList;
 
@@ -43,7 +45,7 @@ void RandomEdits::edit()
 
 void RandomEdits::changeTree()
 {
-    switch (below(9)) {
+    switch (below(10)) {
     case 0:
     case 1:
         m_service->createOverlay(someNode());
@@ -58,6 +60,11 @@ void RandomEdits::changeTree()
         // A tree that only doubles would soon be all that the test works on.
         if (m_service->scene().nodeCount() < 300)
             m_service->duplicateNodes(someNodes());
+        break;
+    case 9:
+        if (m_service->scene().nodeCount() < 300)
+            m_service->insertScene(viewer::extract(m_service->scene(), someNodes()), someNode(),
+                                   below(4) - 1);
         break;
     case 5:
         m_service->deleteNodes(someNodes());
