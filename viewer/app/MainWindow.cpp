@@ -19,6 +19,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPointer>
 #include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
@@ -46,6 +47,13 @@ QString droppedFile(const QDropEvent &event)
 {
     const QList<QUrl> urls = event.mimeData()->urls();
     return urls.size() == 1 ? urls.constFirst().toLocalFile() : QString();
+}
+
+/// The other application may propose to move the file, and delete it when it is told that it was.
+void takeCopy(QDropEvent *event)
+{
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
 }
 
 QString geometryKey()
@@ -83,6 +91,18 @@ void MainWindow::setScenePath(const QString &path)
     const QString application = QApplication::applicationDisplayName();
     const QString name = path.isEmpty() ? tr("Untitled") : QFileInfo(path).fileName();
     setWindowTitle(tr("%1[*] - %2").arg(name, application));
+}
+
+void MainWindow::finishEdits()
+{
+    // In a window without the keyboard nothing is held back any more.
+    const QPointer<QWidget> field = QApplication::focusWidget();
+    if (!field)
+        return;
+    field->clearFocus();
+    // An editor in a row is about to go.
+    if (field && field->isVisible())
+        field->setFocus();
 }
 
 void MainWindow::notify(Severity severity, const QString &text)
@@ -224,12 +244,12 @@ void MainWindow::createStatusBar()
 void MainWindow::dragEnterEvent(QDragEnterEvent *event)
 {
     if (!droppedFile(*event).isEmpty())
-        event->acceptProposedAction();
+        takeCopy(event);
 }
 
 void MainWindow::dropEvent(QDropEvent *event)
 {
-    event->acceptProposedAction();
+    takeCopy(event);
     // The application that was dragged from waits for the drop to return; a question may follow.
     const QString file = droppedFile(*event);
     QTimer::singleShot(0, this, [this, file] { emit openRequested(file); });

@@ -53,6 +53,10 @@ public:
     /// Is asked whether the window may close.
     void setCloseGuard(std::function<bool()> mayClose) { m_mayClose = std::move(mayClose); }
 
+    /// Has the control with the focus hand over what is typed in it or dragged, as if the focus went
+    /// elsewhere.
+    void finishEdits();
+
     /// Tells the user something without blocking; errors and warnings also stand in the status bar.
     void notify(Severity severity, const QString &text);
 

@@ -42,6 +42,7 @@ bool SceneDocument::isModified() const
 
 bool SceneDocument::mayGo()
 {
+    emit editsWanted();
     if (!isModified())
         return true;
     const FileQuestions::Answer answer = m_questions->aboutChanges(name());
@@ -112,11 +113,15 @@ void SceneDocument::setUnsavedScene(Scene scene, const QString &path)
 
 bool SceneDocument::save()
 {
-    return m_path.isEmpty() ? saveAs() : write(m_path);
+    if (m_path.isEmpty())
+        return saveAs();
+    emit editsWanted();
+    return write(m_path);
 }
 
 bool SceneDocument::saveAs()
 {
+    emit editsWanted();
     const QString file = m_questions->fileToSave(m_path);
     return !file.isEmpty() && write(QFileInfo(file).absoluteFilePath());
 }

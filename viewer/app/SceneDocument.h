@@ -64,6 +64,10 @@ public Q_SLOTS:
     bool saveAs();
 
 Q_SIGNALS:
+    /// The scene is about to be saved, or to be asked about: whoever holds an edit back, such as a
+    /// field that is being typed in, hands it over now.
+    void editsWanted();
+
     /// Another file or scene; the title of the window follows.
     void pathChanged(const QString &path);
 

@@ -122,6 +122,7 @@ void ViewerSession::connectDocument()
             [this](const QString &text) { report(Severity::Error, text); });
     window->setCloseGuard([this] { return m_document.mayGo(); });
     connect(window, &MainWindow::openRequested, &m_document, &SceneDocument::open);
+    connect(&m_document, &SceneDocument::editsWanted, window, &MainWindow::finishEdits);
     connect(&m_document, &SceneDocument::dismissed, this,
             [this] { m_window->viewArea()->notices()->clear(); });
     connect(&m_document, &SceneDocument::aboutToReplace, this, [this] { m_images.forgetAll(); });

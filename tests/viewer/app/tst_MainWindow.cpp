@@ -95,6 +95,7 @@ private Q_SLOTS:
     void shouldKeepTheFullScreenSwitchInStepWithTheWindow();
     void shouldNameTheSceneInTheTitle();
     void shouldAskForAFileThatIsDropped();
+    void shouldNotTakeADroppedFileAway();
     void shouldRefuseADropThatIsNoFile();
     void shouldStayOpenWhenItMayNotClose();
     void shouldNameKeysThatStandForTwoCommands();
@@ -318,6 +319,21 @@ void tst_MainWindow::shouldAskForAFileThatIsDropped()
     QCOMPARE(asked.count(), 0); // the drop has returned before anyone is asked
     QTRY_COMPARE(asked.count(), 1);
     QCOMPARE(asked.first().first().toString(), QString("/some/where/night.json"));
+}
+
+void tst_MainWindow::shouldNotTakeADroppedFileAway()
+{
+    Window window;
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile("/some/where/night.json")});
+    const Qt::DropActions possible = Qt::MoveAction | Qt::CopyAction;
+    QDragEnterEvent enter({9, 9}, possible, &data, Qt::LeftButton, Qt::ShiftModifier);
+    QCOMPARE(enter.proposedAction(), Qt::MoveAction);
+    QApplication::sendEvent(&window, &enter);
+    QCOMPARE(enter.dropAction(), Qt::CopyAction);
+    QDropEvent event({9, 9}, possible, &data, Qt::LeftButton, Qt::ShiftModifier);
+    QApplication::sendEvent(&window, &event);
+    QCOMPARE(event.dropAction(), Qt::CopyAction);
 }
 
 void tst_MainWindow::shouldRefuseADropThatIsNoFile()
