@@ -124,7 +124,7 @@ private:
     void rememberItems(const QRPC::NodeList &nodes) const;
     bool place(QStandardItem *item, QRPC::NodeId parentId, QRPC::NodeId afterId);
     void updateCheckState(QStandardItem *item, QRPC::NodeId id);
-    void updateActiveStates(QVector<QStandardItem *> stack);
+    void updateActiveStates(QVector<QStandardItem *> stack, ItemSet *refreshed);
     bool isInPlace(QStandardItem *item) const;
     void settleSubtree(QStandardItem *item, const NodeSet &dropped);
     void settleChildren(QStandardItem *parent, const NodeSet &dropped);

@@ -123,10 +123,10 @@ void kxOverlayQtModel::addNode(QRPC::NodeId id, ItemSet *incomplete)
     } while (!anchor || !isInTree(anchor));
 
     QStandardItem *item = obtainItem(child, Detached::Forget);
-    int row = kxService<kxOverlayService>()->getChildIndex(parent, child);
     // Inserting an item that has its row already would add an empty one.
     if (isInTree(item))
         return;
+    int row = kxService<kxOverlayService>()->getChildIndex(parent, child);
     // Earlier siblings may be announced later: a row beyond the end would lose the item.
     if (row < 0 || row > anchor->rowCount())
         incomplete->insert(anchor);
@@ -242,6 +242,7 @@ void kxOverlayQtModel::updateName(const QRPC::NodeList &list)
 void kxOverlayQtModel::updateEnabledState(const QRPC::NodeList &list)
 {
     ItemSet refreshedSwitches;
+    ItemSet refreshed;
     for (const QRPC::NodeId id : list) {
         QStandardItem *item = itemFromId(id);
         if (!item)
@@ -252,7 +253,7 @@ void kxOverlayQtModel::updateEnabledState(const QRPC::NodeList &list)
         if (!kxService<kxOverlayService>()->isActive(parentId))
             continue;
         if (!kxService<kxOverlayService>()->isSwitch(parentId)) {
-            updateActiveStates({item});
+            updateActiveStates({item}, &refreshed);
             continue;
         }
         // Once a list: each of its children would refresh all the others again.
@@ -264,7 +265,7 @@ void kxOverlayQtModel::updateEnabledState(const QRPC::NodeList &list)
             children.append(parent->child(row));
             updateCheckState(children.last(), getNodeId(children.last()));
         }
-        updateActiveStates(children);
+        updateActiveStates(children, &refreshed);
     }
 }
 
@@ -274,10 +275,15 @@ void kxOverlayQtModel::updateCheckState(QStandardItem *item, QRPC::NodeId id)
     item->setData(int(enabled ? Qt::Checked : Qt::Unchecked), Qt::CheckStateRole);
 }
 
-void kxOverlayQtModel::updateActiveStates(QVector<QStandardItem *> stack)
+/// Refreshes each row once a list: a list that names all nodes of a chain would refresh the last as
+/// often as there are nodes.
+void kxOverlayQtModel::updateActiveStates(QVector<QStandardItem *> stack, ItemSet *refreshed)
 {
     while (!stack.isEmpty()) {
         QStandardItem *item = stack.takeLast();
+        if (refreshed->contains(item))
+            continue;
+        refreshed->insert(item);
         const bool active = kxService<kxOverlayService>()->isActive(getNodeId(item));
         item->setData(active, kxOverlayItem::ActiveRole);
         for (int row = 0; row < item->rowCount(); ++row)

@@ -21,6 +21,8 @@ private Q_SLOTS:
     void shouldAskForEachNameOnce();
     void shouldRefreshASwitchOncePerList();
     void shouldAskLinearlyWhenAGroupChanges();
+    void shouldRefreshEachRowOncePerList();
+    void shouldAskNoPlaceForANodeThatHasARow();
     void shouldNotReadOtherRows();
     void shouldShowDeepChains();
 
@@ -184,6 +186,34 @@ void tst_kxOverlayQtModel_costs::shouldAskLinearlyWhenAGroupChanges()
     KX_COMPARE_TREE(model(), service());
     QCOMPARE(count("isEnabled"), 1);
     QCOMPARE(count("isActive"), nodes + 2);
+}
+
+/// What lies in a node of the list is refreshed with that node.
+void tst_kxOverlayQtModel_costs::shouldRefreshEachRowOncePerList()
+{
+    constexpr int depth = 300;
+    fill("a2");
+    const QRPC::NodeId top = service().insertChain(1, depth);
+    QRPC::NodeList chain;
+    for (int i = 0; i < depth; ++i)
+        chain.append(top + QRPC::NodeId(i));
+    for (const QRPC::NodeId id : qAsConst(chain))
+        service().node(id).enabled = false;
+    Q_EMIT service().modelReset();
+    log().clear();
+    service().setEnabled(chain, true);
+    KX_COMPARE_TREE(model(), service());
+    // that of the parent, then its own
+    QCOMPARE(count("isActive"), 2 * depth);
+}
+
+void tst_kxOverlayQtModel_costs::shouldAskNoPlaceForANodeThatHasARow()
+{
+    fillFlat(10);
+    const QRPC::NodeList all = service().allIds();
+    Q_EMIT service().nodesAdded(all);
+    QCOMPARE(count("getChildIndex"), 0);
+    KX_COMPARE_TREE(model(), service());
 }
 
 void tst_kxOverlayQtModel_costs::shouldNotReadOtherRows()
