@@ -22,7 +22,8 @@
 void kxOverlayEditor::createTreeView()
 {
     QFrame *frame = m_window->_overlay_tree_frame;
-    m_treeView = new kxOverlayTreeView(frame);
+    auto *treeView = new kxOverlayTreeView(frame);
+    m_treeView = treeView;
     m_treeView->setHeaderHidden(true);
     m_treeView->setModel(m_model);
     m_treeView->setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -45,6 +46,7 @@ void kxOverlayEditor::createTreeView()
     // name hides the signal from the text form.
     connect(m_model, &QAbstractItemModel::modelReset, this, &kxOverlayEditor::selectionChanged);
     connect(m_model, &kxOverlayQtModel::nodesAboutToGo, this, &kxOverlayEditor::deselect);
+    connect(m_model, &kxOverlayQtModel::nodesAboutToGo, treeView, &kxOverlayTreeView::closeRows);
 
     m_searchBox = new QKXSearchBox(frame);
     kxConnect(m_searchBox, SIGNAL(searchChanged(const QString &)), this,

@@ -88,23 +88,41 @@ bool kxOverlayTreeView::isHidden(QModelIndex index) const
 QRPC::NodeList kxOverlayTreeView::openNodesIn(const QModelIndexList &rows) const
 {
     QRPC::NodeList nodes;
+    const QModelIndexList openRows = openRowsIn(rows);
+    for (const QModelIndex &index : openRows)
+        nodes.append(overlayModel()->getNodeId(index));
+    return nodes;
+}
+
+QModelIndexList kxOverlayTreeView::openRowsIn(const QModelIndexList &rows) const
+{
+    QModelIndexList openRows;
     QSet<QModelIndex> visited;
     for (const QModelIndex &index : rows)
-        collectOpen(index, &visited, &nodes);
-    return nodes;
+        collectOpen(index, &visited, &openRows);
+    return openRows;
 }
 
 /// Visits a row once, however many of its ancestors are among the rows.
 void kxOverlayTreeView::collectOpen(const QModelIndex &index, QSet<QModelIndex> *visited,
-                                    QRPC::NodeList *nodes) const
+                                    QModelIndexList *open) const
 {
     if (visited->contains(index))
         return;
     visited->insert(index);
     if (isExpanded(index))
-        nodes->append(overlayModel()->getNodeId(index));
+        open->append(index);
     for (int row = 0; row < model()->rowCount(index); ++row)
-        collectOpen(model()->index(row, 0, index), visited, nodes);
+        collectOpen(model()->index(row, 0, index), visited, open);
+}
+
+void kxOverlayTreeView::closeRows(const QModelIndexList &rows)
+{
+    // While a layout is due, closing a row is a note and no layout of its own.
+    scheduleDelayedItemsLayout();
+    const QModelIndexList openRows = openRowsIn(rows);
+    for (const QModelIndex &index : openRows)
+        collapse(index);
 }
 
 void kxOverlayTreeView::open(const QRPC::NodeList &nodes)

@@ -31,6 +31,10 @@ public:
     explicit kxOverlayTreeView(QWidget *parent = nullptr);
     ~kxOverlayTreeView() override;
 
+    /// Closes rows that are about to leave their places, with all that lies in them. They would be
+    /// closed one by one as they go, each of which costs a walk over all that are still open.
+    void closeRows(const QModelIndexList &rows);
+
     /// A change that leaves the name alone leaves a name alone that is being edited.
     void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                      const QVector<int> &roles = QVector<int>()) override;
@@ -45,8 +49,9 @@ private:
     void deselectHiddenRows();
     bool isHidden(QModelIndex index) const;
     QRPC::NodeList openNodesIn(const QModelIndexList &rows) const;
+    QModelIndexList openRowsIn(const QModelIndexList &rows) const;
     void collectOpen(const QModelIndex &index, QSet<QModelIndex> *visited,
-                     QRPC::NodeList *nodes) const;
+                     QModelIndexList *open) const;
     void open(const QRPC::NodeList &nodes);
     void selectDropped(const kxDropTrace &trace);
     void makeCurrent(const QModelIndex &index);

@@ -4,6 +4,8 @@
 #include "tests/overlayeditor/EditorTest.h"
 #include "tests/support/RealInput.h"
 
+#include <algorithm>
+
 namespace {
 
 const auto flatTree = QStringLiteral("a2 b3 c4 d5 e6 f7 h8 i9 j10 k11 m12(n13 o14 p15 q16) g17()");
@@ -24,6 +26,8 @@ private Q_SLOTS:
     void shouldSurviveTheRemovalOfSelectedRows();
     void shouldDeleteSelectedRowsByKey();
     void shouldDeleteTheCurrentRowAgainAndAgain();
+    void shouldCloseRowsBeforeTheyLeave_data();
+    void shouldCloseRowsBeforeTheyLeave();
 
 private:
     static bool isReal() { return QGuiApplication::platformName() == "xcb"; }
@@ -132,6 +136,38 @@ void tst_kxOverlayEditor_removal::shouldDeleteTheCurrentRowAgainAndAgain()
         KX_COMPARE_TREE(model(), service());
     }
     QCOMPARE(model().rowCount(), 0);
+}
+
+void tst_kxOverlayEditor_removal::shouldCloseRowsBeforeTheyLeave_data()
+{
+    QTest::addColumn<bool>("moved");
+    QTest::newRow("removed") << false;
+    QTest::newRow("moved") << true;
+}
+
+/// The toolkit looks at each row that a view keeps open, for each row that leaves.
+void tst_kxOverlayEditor_removal::shouldCloseRowsBeforeTheyLeave()
+{
+    QFETCH(bool, moved);
+    openEditor("g2(h3(a4) k5(b6)) m7(c8) n9(d10)");
+    const QVector<QPersistentModelIndex> leaving{index(2), index(3), index(5), index(7)};
+    const QPersistentModelIndex staying = index(9);
+    int stillOpen = -1;
+    const QObject listener;
+    connect(&model(), &QAbstractItemModel::rowsAboutToBeRemoved, &listener,
+            [this, rows = &leaving, open = &stillOpen] {
+                if (*open < 0)
+                    *open = int(std::count_if(rows->begin(), rows->end(), [this](const auto &row) {
+                        return tree().isExpanded(row);
+                    }));
+            });
+    if (moved)
+        service().moveNodes({2, 7}, 9, -1);
+    else
+        service().deleteNodes({2, 7});
+    QCOMPARE(stillOpen, 0);
+    QVERIFY(tree().isExpanded(staying));
+    KX_COMPARE_TREE(model(), service());
 }
 
 KX_TEST_MAIN(tst_kxOverlayEditor_removal)
