@@ -164,3 +164,26 @@ QVector<RecordingService::Node *> RecordingService::tops(const QRPC::NodeList &n
     }
     return highest;
 }
+
+/// In the order of the tree.
+QVector<RecordingService::Node *> RecordingService::inOrder(QVector<Node *> nodes) const
+{
+    if (nodes.size() < 2)
+        return nodes;
+    QHash<QRPC::NodeId, int> places;
+    const QRPC::NodeList all = allIds();
+    for (int place = 0; place < all.size(); ++place)
+        places.insert(all.at(place), place);
+    std::sort(nodes.begin(), nodes.end(), [&places](const Node *a, const Node *b) {
+        return places.value(a->id) < places.value(b->id);
+    });
+    return nodes;
+}
+
+QRPC::NodeList RecordingService::idsOf(const QVector<Node *> &nodes)
+{
+    QRPC::NodeList ids;
+    for (const Node *node : nodes)
+        ids.append(node->id);
+    return ids;
+}

@@ -151,6 +151,8 @@ private:
     Node *find(QRPC::NodeId node) const;
     QVector<Node *> known(const QRPC::NodeList &nodes) const;
     QVector<Node *> tops(const QRPC::NodeList &nodes) const;
+    QVector<Node *> inOrder(QVector<Node *> nodes) const;
+    static QRPC::NodeList idsOf(const QVector<Node *> &nodes);
     Node *adopt(Node *parent, int row, const notation::Node &source);
     Node *addNode(QRPC::NodeId id, notation::Kind kind, const QString &name);
     void release(Node *node);
@@ -162,6 +164,10 @@ private:
     void applyEnabled(const QRPC::NodeList &nodes, bool enabled);
     static void enterDisabled(const QVector<Node *> &entered, QRPC::NodeList *changed);
 
+    void announceCreated(const QRPC::NodeList &nodes);
+    void announce(const std::function<void()> &signal, bool isStructural);
+    void sendQueued();
+
     void note(const QString &line);
     QString noteWrite(const char *operation, const QRPC::NodeList &nodes, const QString &value);
     void finish(const QString &line);
@@ -169,12 +175,15 @@ private:
     template<class V>
     V ask(const char *operation, QRPC::NodeId node, V Node::*member, const V &none);
     template<class Setter>
-    void write(const QString &line, const QRPC::NodeList &nodes, Change changed, Setter setter);
+    void write(const QString &line, const QRPC::NodeList &nodes,
+               std::initializer_list<Change> changes, Setter setter);
 
     CallLog *m_log;
     std::unordered_map<QRPC::NodeId, std::unique_ptr<Node>> m_nodes;
     Node *m_root = nullptr;
     QRPC::NodeId m_nextId = rootId + 1;
     bool m_applies = true;
+    bool m_announcesMove = false;
+    QVector<std::function<void()>> m_queued; // what must not be announced inside a move
     std::function<void(const QString &)> m_hook;
 };

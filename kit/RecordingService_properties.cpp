@@ -59,12 +59,14 @@ V RecordingService::ask(const char *operation, QRPC::NodeId id, V Node::*member,
 {
     note(QStringLiteral("%1 %2").arg(QLatin1String(operation)).arg(id));
     const Node *node = find(id);
-    return node && node != m_root ? node->*member : none;
+    return node && node->kind == Kind::Overlay ? node->*member : none;
 }
 
-QString RecordingService::getName(QRPC::NodeId node)
+QString RecordingService::getName(QRPC::NodeId id)
 {
-    return ask("getName", node, &Node::name, QString());
+    note(QStringLiteral("getName %1").arg(id));
+    const Node *node = find(id);
+    return node && node != m_root ? node->name : QString();
 }
 
 int RecordingService::getOverlayType(QRPC::NodeId node)
@@ -122,31 +124,43 @@ QPointF RecordingService::getOffset(QRPC::NodeId node)
     return ask("getOffset", node, &Node::offset, QPointF());
 }
 
-/// `setter` changes one node and answers whether that changed anything.
+/// `setter` changes one node and answers whether that changed anything. The signals are all those
+/// that such a change causes.
 template<class Setter>
-void RecordingService::write(const QString &line, const QRPC::NodeList &nodes, Change changed,
-                             Setter setter)
+void RecordingService::write(const QString &line, const QRPC::NodeList &nodes,
+                             std::initializer_list<Change> changes, Setter setter)
 {
-    QRPC::NodeList touched;
+    QVector<Node *> touched;
     const QVector<Node *> targets = m_applies ? known(nodes) : QVector<Node *>();
     for (Node *node : targets) {
-        const bool hasIt = node->kind == Kind::Overlay || changed == &kxOverlayService::nameChanged;
+        const bool hasIt =
+            node->kind == Kind::Overlay || *changes.begin() == &kxOverlayService::nameChanged;
         if (hasIt && setter(node))
-            touched.append(node->id);
+            touched.append(node);
     }
-    if (!touched.isEmpty())
-        Q_EMIT(this->*changed)(touched);
+    const QRPC::NodeList announced = idsOf(inOrder(touched));
+    for (const Change changed : changes) {
+        if (!announced.isEmpty())
+            Q_EMIT(this->*changed)(announced);
+    }
     finish(line);
 }
 
 namespace {
+
+/// Equal, or both no number.
+template<class V>
+bool isSame(const V &a, const V &b)
+{
+    return a == b || (a != a && b != b); // NOLINT(misc-redundant-expression)
+}
 
 /// Assigns `value` to a member of a node; true when it was another one.
 template<class V>
 auto assign(V RecordingService::Node::*member, const V &value)
 {
     return [member, value](RecordingService::Node *node) {
-        const bool differs = !(node->*member == value);
+        const bool differs = !isSame(node->*member, value);
         node->*member = value;
         return differs;
     };
@@ -157,48 +171,52 @@ auto assign(V RecordingService::Node::*member, const V &value)
 void RecordingService::setOverlayType(const QRPC::NodeList &nodes, int type)
 {
     write(noteWrite("setOverlayType", nodes, QString::number(type)), nodes,
-          &kxOverlayService::overlayTypeChanged, assign(&Node::type, type));
+          {&kxOverlayService::overlayTypeChanged, &kxOverlayService::textChanged,
+           &kxOverlayService::fontChanged, &kxOverlayService::fontColorChanged,
+           &kxOverlayService::backgroundColorChanged,
+           &kxOverlayService::backgroundTransparencyChanged, &kxOverlayService::imageChanged},
+          assign(&Node::type, type));
 }
 
 void RecordingService::setName(const QRPC::NodeList &nodes, const QString &name)
 {
-    write(noteWrite("setName", nodes, text(name)), nodes, &kxOverlayService::nameChanged,
+    write(noteWrite("setName", nodes, text(name)), nodes, {&kxOverlayService::nameChanged},
           assign(&Node::name, name));
 }
 
 void RecordingService::setText(const QRPC::NodeList &nodes, const QString &value)
 {
-    write(noteWrite("setText", nodes, text(value)), nodes, &kxOverlayService::textChanged,
+    write(noteWrite("setText", nodes, text(value)), nodes, {&kxOverlayService::textChanged},
           assign(&Node::text, value));
 }
 
 void RecordingService::setFont(const QRPC::NodeList &nodes, const QString &family)
 {
-    write(noteWrite("setFont", nodes, text(family)), nodes, &kxOverlayService::fontChanged,
+    write(noteWrite("setFont", nodes, text(family)), nodes, {&kxOverlayService::fontChanged},
           assign(&Node::font, family));
 }
 
 void RecordingService::setFontColor(const QRPC::NodeList &nodes, const QColor &color)
 {
-    write(noteWrite("setFontColor", nodes, text(color)), nodes, &kxOverlayService::fontColorChanged,
-          assign(&Node::fontColor, color));
+    write(noteWrite("setFontColor", nodes, text(color)), nodes,
+          {&kxOverlayService::fontColorChanged}, assign(&Node::fontColor, color));
 }
 
 void RecordingService::setBackgroundColor(const QRPC::NodeList &nodes, const QColor &color)
 {
     write(noteWrite("setBackgroundColor", nodes, text(color)), nodes,
-          &kxOverlayService::backgroundColorChanged, assign(&Node::backgroundColor, color));
+          {&kxOverlayService::backgroundColorChanged}, assign(&Node::backgroundColor, color));
 }
 
 void RecordingService::setBackgroundTransparency(const QRPC::NodeList &nodes, const QColor &color)
 {
     write(noteWrite("setBackgroundTransparency", nodes, text(color)), nodes,
-          &kxOverlayService::backgroundTransparencyChanged, assign(&Node::transparency, color));
+          {&kxOverlayService::backgroundTransparencyChanged}, assign(&Node::transparency, color));
 }
 
 void RecordingService::setImage(const QRPC::NodeList &nodes, const QString &path)
 {
-    write(noteWrite("setImage", nodes, text(path)), nodes, &kxOverlayService::imageChanged,
+    write(noteWrite("setImage", nodes, text(path)), nodes, {&kxOverlayService::imageChanged},
           [path](Node *node) {
               const bool announced = !path.isEmpty() || !node->image.isEmpty();
               node->image = path;
@@ -209,31 +227,31 @@ void RecordingService::setImage(const QRPC::NodeList &nodes, const QString &path
 void RecordingService::setSizeType(const QRPC::NodeList &nodes, int sizeType)
 {
     write(noteWrite("setSizeType", nodes, QString::number(sizeType)), nodes,
-          &kxOverlayService::sizeTypeChanged, assign(&Node::sizeType, sizeType));
+          {&kxOverlayService::sizeTypeChanged}, assign(&Node::sizeType, sizeType));
 }
 
 void RecordingService::setSize(const QRPC::NodeList &nodes, float size)
 {
     write(noteWrite("setSize", nodes, QString::number(double(size))), nodes,
-          &kxOverlayService::sizeChanged, assign(&Node::size, size));
+          {&kxOverlayService::sizeChanged}, assign(&Node::size, size));
 }
 
 void RecordingService::setPosition(const QRPC::NodeList &nodes, const QPointF &position)
 {
     write(noteWrite("setPosition", nodes, text(position)), nodes,
-          &kxOverlayService::positionChanged, assign(&Node::position, position));
+          {&kxOverlayService::positionChanged}, assign(&Node::position, position));
 }
 
 void RecordingService::setOffset(const QRPC::NodeList &nodes, const QPointF &offset)
 {
-    write(noteWrite("setOffset", nodes, text(offset)), nodes, &kxOverlayService::offsetChanged,
+    write(noteWrite("setOffset", nodes, text(offset)), nodes, {&kxOverlayService::offsetChanged},
           assign(&Node::offset, offset));
 }
 
 void RecordingService::setOffsetX(const QRPC::NodeList &nodes, float x)
 {
     write(noteWrite("setOffsetX", nodes, QString::number(double(x))), nodes,
-          &kxOverlayService::offsetChanged, [x](Node *node) {
+          {&kxOverlayService::offsetChanged}, [x](Node *node) {
               const bool differs = float(node->offset.x()) != x;
               node->offset.setX(double(x));
               return differs;
@@ -243,7 +261,7 @@ void RecordingService::setOffsetX(const QRPC::NodeList &nodes, float x)
 void RecordingService::setOffsetY(const QRPC::NodeList &nodes, float y)
 {
     write(noteWrite("setOffsetY", nodes, QString::number(double(y))), nodes,
-          &kxOverlayService::offsetChanged, [y](Node *node) {
+          {&kxOverlayService::offsetChanged}, [y](Node *node) {
               const bool differs = float(node->offset.y()) != y;
               node->offset.setY(double(y));
               return differs;

@@ -4,6 +4,7 @@
 #include "kit/RecordingService.h"
 
 #include <QRegularExpression>
+#include <QScopedValueRollback>
 #include <QSet>
 
 #include <algorithm>
@@ -13,22 +14,6 @@ using notation::Kind;
 namespace {
 
 using Node = RecordingService::Node;
-
-int depthOf(const Node *node)
-{
-    int depth = 0;
-    for (const Node *at = node->parent; at; at = at->parent)
-        ++depth;
-    return depth;
-}
-
-QRPC::NodeList idsOf(const QVector<Node *> &nodes)
-{
-    QRPC::NodeList ids;
-    for (const Node *node : nodes)
-        ids.append(node->id);
-    return ids;
-}
 
 /// The order in which a move lays its nodes down: by source row, and the later nodes of one source
 /// row behind all others.
@@ -155,8 +140,7 @@ QRPC::NodeId RecordingService::create(const char *operation, QRPC::NodeId parent
         QRPC::NodeList changed;
         enterDisabled({node}, &changed);
         id = node->id;
-        Q_EMIT nodesAdded({id});
-        Q_EMIT nodesCreated({id});
+        announceCreated({id});
     }
     finish(line);
     return id;
@@ -181,40 +165,32 @@ RecordingService::Node *RecordingService::copyOf(const Node &source)
 void RecordingService::duplicateNodes(const QRPC::NodeList &nodes)
 {
     const QString line = noteWrite("duplicateNodes", nodes, QString());
-    QRPC::NodeList copies;
+    QVector<Node *> copies;
     const QVector<Node *> originals = m_applies ? tops(nodes) : QVector<Node *>();
     for (Node *original : originals) {
         Node *copy = copyOf(*original);
         QVector<Node *> &siblings = original->parent->children;
         int row = siblings.indexOf(original) + 1;
         while (row < siblings.size()
-               && (originals.contains(siblings.at(row)) || copies.contains(siblings.at(row)->id)))
+               && (originals.contains(siblings.at(row)) || copies.contains(siblings.at(row))))
             ++row;
         siblings.insert(row, copy);
         QRPC::NodeList changed;
         enterDisabled({copy}, &changed);
-        copies.append(copy->id);
+        copies.append(copy);
     }
-    if (!copies.isEmpty()) {
-        std::sort(copies.begin(), copies.end(), [this](QRPC::NodeId a, QRPC::NodeId b) {
-            return node(a).parent == node(b).parent
-                       ? node(a).parent->children.indexOf(&node(a))
-                             < node(b).parent->children.indexOf(&node(b))
-                       : node(a).parent->id < node(b).parent->id;
-        });
-        Q_EMIT nodesAdded(copies);
-        Q_EMIT nodesCreated(copies);
-    }
+    if (!copies.isEmpty())
+        announceCreated(idsOf(inOrder(copies)));
     finish(line);
 }
 
 void RecordingService::deleteNodes(const QRPC::NodeList &nodes)
 {
     const QString line = noteWrite("deleteNodes", nodes, QString());
-    const QRPC::NodeList doomed = m_applies ? idsOf(tops(nodes)) : QRPC::NodeList();
+    const QRPC::NodeList doomed = m_applies ? idsOf(inOrder(tops(nodes))) : QRPC::NodeList();
     erase(doomed);
     if (!doomed.isEmpty())
-        Q_EMIT nodesRemoved(doomed);
+        announce([this, doomed] { Q_EMIT nodesRemoved(doomed); }, true);
     finish(line);
 }
 
@@ -223,20 +199,17 @@ void RecordingService::groupNodes(const QRPC::NodeList &nodes)
     const QString line = noteWrite("groupNodes", nodes, QString());
     const QVector<Node *> members = m_applies ? tops(nodes) : QVector<Node *>();
     if (!members.isEmpty()) {
-        const QRPC::NodeList order = allIds();
-        Node *topmost = *std::min_element(members.begin(), members.end(),
-                                          [&order](const Node *a, const Node *b) {
-                                              return order.indexOf(a->id) < order.indexOf(b->id);
-                                          });
+        const Node *topmost = inOrder(members).first();
         Node *parent = topmost->parent;
         const QString name = QStringLiteral("n%1").arg(m_nextId);
-        Node *group = adopt(parent, parent->children.indexOf(topmost),
+        Node *group = adopt(parent, parent->children.indexOf(const_cast<Node *>(topmost)),
                             notation::Node{name, m_nextId, Kind::Group, true, {}});
         QRPC::NodeList changed;
         enterDisabled({group}, &changed);
-        Q_EMIT nodesAdded({group->id});
+        const QRPC::NodeList created{group->id};
+        announce([this, created] { Q_EMIT nodesAdded(created); }, true);
         applyMove(idsOf(members), group, -1);
-        Q_EMIT nodesCreated({group->id});
+        announce([this, created] { Q_EMIT nodesCreated(created); }, true);
     }
     finish(line);
 }
@@ -264,6 +237,9 @@ void RecordingService::applyMove(const QRPC::NodeList &nodes, Node *target, int 
         ++anchorRow;
     Node *anchor = children.value(anchorRow);
     const QVector<Node *> block = inBlockOrder(moved);
+    const QVector<Node *> before = children;
+    const bool staysInside = std::all_of(block.cbegin(), block.cend(),
+                                         [target](Node *node) { return node->parent == target; });
     for (Node *node : block)
         node->parent->children.removeOne(node);
     int at = anchor ? children.indexOf(anchor) : children.size();
@@ -271,6 +247,8 @@ void RecordingService::applyMove(const QRPC::NodeList &nodes, Node *target, int 
         children.insert(at++, node);
         node->parent = target;
     }
+    if (staysInside && children == before)
+        return;
     QRPC::NodeList switchedOff;
     enterDisabled(block, &switchedOff);
     announceMove(block, switchedOff);
@@ -280,18 +258,47 @@ void RecordingService::announceMove(const QVector<Node *> &block, const QRPC::No
 {
     QRPC::NodeList parents;
     QRPC::NodeList afters;
-    QRPC::NodeList restated = switchedOff;
+    QVector<Node *> restated = known(switchedOff);
     for (const Node *node : block) {
         const QVector<Node *> &siblings = node->parent->children;
         const Node *before = siblings.value(siblings.indexOf(const_cast<Node *>(node)) - 1);
         parents.append(node->parent->id);
         afters.append(before ? before->id : 0);
-        const QRPC::NodeId top = highestDisabled(node);
+        Node *top = find(highestDisabled(node));
         if (!restated.contains(top))
             restated.append(top);
     }
-    Q_EMIT nodesMoved(idsOf(block), parents, afters);
-    Q_EMIT enabledStateChanged(restated);
+    const QRPC::NodeList moved = idsOf(block);
+    const QRPC::NodeList changed = idsOf(inOrder(restated));
+    const QScopedValueRollback<bool> announcing(m_announcesMove, true);
+    announce([=] { Q_EMIT nodesMoved(moved, parents, afters); }, false);
+    announce([=] { Q_EMIT enabledStateChanged(changed); }, false);
+}
+
+void RecordingService::announceCreated(const QRPC::NodeList &nodes)
+{
+    announce([this, nodes] { Q_EMIT nodesAdded(nodes); }, true);
+    announce([this, nodes] { Q_EMIT nodesCreated(nodes); }, true);
+}
+
+/// What adds or removes waits until the move that is being announced is over, and all that comes
+/// behind it waits with it.
+void RecordingService::announce(const std::function<void()> &signal, bool isStructural)
+{
+    if ((!m_announcesMove || !isStructural) && m_queued.isEmpty()) {
+        signal();
+        return;
+    }
+    m_queued.append(signal);
+    QMetaObject::invokeMethod(
+        this, [this] { sendQueued(); }, Qt::QueuedConnection);
+}
+
+void RecordingService::sendQueued()
+{
+    const QVector<std::function<void()>> waiting = std::exchange(m_queued, {});
+    for (const std::function<void()> &signal : waiting)
+        signal();
 }
 
 /// A switch that shows a child already lets newcomers in disabled only; of newcomers alone the
@@ -345,8 +352,7 @@ void RecordingService::applyEnabled(const QRPC::NodeList &nodes, bool enabled)
             changed.append(node);
         seen.insert(node);
     }
-    std::stable_sort(changed.begin(), changed.end(),
-                     [](Node *a, Node *b) { return depthOf(a) < depthOf(b); });
-    if (!changed.isEmpty())
-        Q_EMIT enabledStateChanged(idsOf(changed));
+    const QRPC::NodeList announced = idsOf(inOrder(changed));
+    if (!announced.isEmpty())
+        announce([this, announced] { Q_EMIT enabledStateChanged(announced); }, false);
 }
