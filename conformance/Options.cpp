@@ -29,6 +29,7 @@ Options::Options(const QStringList &arguments)
          "as JSON.",
          "file"},
         {"timeout", "End a check that takes longer than this; 60 unless given.", "seconds"},
+        {"first", "Stop at the first check that fails."},
         {"list", "List the checks and what they state, and run none."},
     });
     if (!parser.parse(arguments)) {
@@ -39,6 +40,7 @@ Options::Options(const QStringList &arguments)
     host = parser.value("host");
     report = parser.value("report");
     list = parser.isSet("list");
+    first = parser.isSet("first");
     const QStringList patterns = parser.values("only");
     for (const QString &pattern : patterns)
         only.emplace_back(QRegularExpression::wildcardToRegularExpression(pattern));

@@ -25,6 +25,7 @@ public:
     QString host;   ///< or host to be checked
     QString report; ///< empty: no file
     bool list = false;
+    bool first = false;                   ///< stop at the first check that fails
     int seconds = 60;                     ///< for one check
     std::vector<QRegularExpression> only; ///< empty: all checks
 

@@ -78,6 +78,8 @@ void Runner::run(const std::function<void(const Result &)> &take)
         if (!told.cannotLoad.isEmpty())
             throw std::runtime_error(told.cannotLoad.toStdString());
         next += told.results;
+        if (m_stops && told.hasFailure)
+            return;
         if (!told.isDone && next < count)
             take(broken(m_suite->infos().at(size_t(next++)), told.hung, told.status));
     }
@@ -100,7 +102,7 @@ Runner::Told Runner::runChild(int first, const std::function<void(const Result &
     Told told;
     read(ends[0], &told, take);
     close(ends[0]);
-    if (told.hung)
+    if (told.hung || told.hasFailure)
         kill(process, SIGKILL);
     waitpid(process, &told.status, 0);
     return told;
@@ -123,6 +125,8 @@ void Runner::read(int pipe, Told *told, const std::function<void(const Result &)
         for (int length = pending.indexOf('\n'); length >= 0; length = pending.indexOf('\n')) {
             takeLine(pending.left(length), told, take);
             pending.remove(0, length + 1);
+            if (m_stops && told->hasFailure)
+                return;
         }
     }
 }
@@ -140,6 +144,7 @@ void Runner::takeLine(const QByteArray &line, Told *told,
     result.milliseconds = object.value(QLatin1String("milliseconds")).toInt();
     if (object.contains(QLatin1String("what"))) {
         result.outcome = Result::Outcome::Failed;
+        told->hasFailure = true;
         result.failure = {object.value(QLatin1String("what")).toString(),
                           object.value(QLatin1String("expected")).toString(),
                           object.value(QLatin1String("seen")).toString()};

@@ -29,7 +29,12 @@ struct Result
 class Runner
 {
 public:
-    Runner(Suite *suite, int secondsForACheck) : m_suite(suite), m_seconds(secondsForACheck) {}
+    Runner(Suite *suite, int secondsForACheck, bool stopsAtAFailure)
+        : m_suite(suite)
+        , m_seconds(secondsForACheck)
+        , m_stops(stopsAtAFailure)
+    {
+    }
 
     /// Runs all checks in order and hands on each result as it comes. Throws std::runtime_error when
     /// the library cannot be checked at all.
@@ -42,6 +47,7 @@ private:
         int results = 0;
         QString cannotLoad;  ///< why; empty when it could
         bool isDone = false; ///< it ended because it was to
+        bool hasFailure = false;
         bool hung = false;
         int status = 0;
     };
@@ -58,6 +64,7 @@ private:
 
     Suite *m_suite;
     int m_seconds;
+    bool m_stops;
 };
 
 } // namespace conformance

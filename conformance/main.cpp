@@ -50,7 +50,7 @@ int runAll(const Options &options)
         return fault("no check has such a name");
     Report report(isModule ? "module" : "host", isModule ? options.plugin : options.host);
     try {
-        Runner(suite.get(), options.seconds).run([&report](const Result &result) {
+        Runner(suite.get(), options.seconds, options.first).run([&report](const Result &result) {
             report.add(result);
         });
     } catch (const std::exception &problem) {

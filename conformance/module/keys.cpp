@@ -159,6 +159,23 @@ ModuleChecks effectChecks() // NOLINT(readability-function-size)
              bench.press(Qt::Key_R, ctrl);
              expect("no editor is open", nameEditor(bench) == nullptr);
          }},
+        {"key.inNameEditor", "Keys that are typed into a name in place are no commands.",
+         [](ModuleBench &bench) {
+             openForKeys(bench);
+             QWidget &window = bench.window();
+             window.show();
+             QApplication::setActiveWindow(&window);
+             bench.press(Qt::Key_R, ctrl);
+             QLineEdit *edit = nameEditor(bench);
+             expect("an editor is open", edit != nullptr);
+             edit->setFocus();
+             expect("the editor has the focus", edit->hasFocus());
+             const QStringList calls = bench.commandsOf([edit] {
+                 for (const Qt::Key key : {Qt::Key_D, Qt::Key_T, Qt::Key_G})
+                     keys::press(edit, key, ctrl);
+             });
+             expectEqual("calls", calls, QStringList());
+         }},
         {"key.elsewhere", "Keys in other widgets of the panel are no commands.",
          [](ModuleBench &bench) {
              openForKeys(bench);

@@ -7,10 +7,10 @@ namespace conformance {
 
 ModuleChecks moduleChecks()
 {
-    return joined<ModuleBench>({entryChecks(), formChecks(), wiringChecks(), treeChecks(),
-                                itemChecks(), dropChecks(), selectionChecks(), commandChecks(),
-                                keyChecks(), searchChecks(), panelChecks(), refreshChecks(),
-                                editChecks()});
+    return joined<ModuleBench>({entryChecks(), formChecks(), textChecks(), wiringChecks(),
+                                treeChecks(), itemChecks(), dropChecks(), selectionChecks(),
+                                commandChecks(), keyChecks(), searchChecks(), panelChecks(),
+                                refreshChecks(), editChecks()});
 }
 
 } // namespace conformance

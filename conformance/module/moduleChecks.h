@@ -16,6 +16,7 @@ ModuleChecks moduleChecks();
 /// The checks of one subject each.
 ModuleChecks entryChecks();
 ModuleChecks formChecks();
+ModuleChecks textChecks();
 ModuleChecks treeChecks();
 ModuleChecks itemChecks();
 ModuleChecks selectionChecks();

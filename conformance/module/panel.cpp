@@ -4,12 +4,14 @@
 #include "conformance/module/moduleChecks.h"
 #include "host/QKXSlider.h"
 #include "host/QKXTextureControls.h"
+#include "host/kxIconManager.h"
 
 #include <QButtonGroup>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <QToolButton>
 
 namespace conformance {
 
@@ -95,6 +97,39 @@ ModuleChecks panelChecks() // NOLINT(readability-function-size)
              expectEqual("lower end", slider.value(), 0.0);
          },
          Stage::Fresh},
+        {"panel.imageIcons", "The five buttons of the image line have their icons, in this order.",
+         [](ModuleBench &bench) {
+             QStringList shown;
+             const auto buttons = bench.form<QWidget>("_image_edit").findChildren<QToolButton *>();
+             for (const QToolButton *button : buttons) {
+                 for (const char *name :
+                      {"FileOpen", "Reload", "Save", "ShowTextureInfo", "Delete"}) {
+                     const QIcon icon = kxIconManager::getIcon(name, "");
+                     if (button->icon().pixmap(24, 24).toImage() == icon.pixmap(24, 24).toImage())
+                         shown.append(name);
+                 }
+             }
+             expectEqual("icons", shown,
+                         QStringList({"FileOpen", "Reload", "Save", "ShowTextureInfo", "Delete"}));
+         }},
+        {"panel.imageLineAlone",
+         "Of the image's controls only the file line is shown, and is in use.",
+         [](ModuleBench &bench) {
+             bench.service().build("a2");
+             bench.node(2).type = 1;
+             Q_EMIT bench.service().modelReset();
+             bench.select({2});
+             QWidget &window = bench.window();
+             window.show();
+             const auto &controls = bench.form<QKXTextureControls>("_image_edit");
+             expect("the texture is used", controls.useTexture());
+             const auto parts = controls.findChildren<QWidget *>();
+             for (const QWidget *part : parts) {
+                 const bool isSetting = part->inherits("QCheckBox") || part->inherits("QComboBox")
+                                        || part->inherits("QAbstractSpinBox");
+                 expect("no setting is shown", !isSetting || !part->isVisible());
+             }
+         }},
         {"panel.startsAsText",
          "The image line and its label are hidden until an image is selected.",
          [](ModuleBench &bench) {

@@ -3,8 +3,11 @@
 # SPDX-License-Identifier: MIT
 """Breaks the plug-in in one place at a time and looks whether its tests notice.
 
-Usage: mutants.py ROOT [--folder overlayeditor|viewer/scene|hostlib] [--count N] [--seed S]
-       [--file PART] [--copy NAME]
+Usage: mutants.py ROOT [--folder overlayeditor|viewer/scene|hostlib|kit] [--conformance] [--count N]
+       [--seed S] [--file PART] [--copy NAME]
+
+With --conformance it is not the tests that have to notice, but the conformance program: a broken
+plug-in is a broken module, a broken kit (or viewer/scene) a broken host.
 
 Works on a copy of the tracked files below ROOT/build, so that the tree is never touched; runs side by
 side need copies of their own (--copy NAME). Each mutant is compiled into the shared form of its library,
@@ -34,6 +37,17 @@ PARTS = {
     "viewer/scene": ("viewerscene", "tests/viewer/scene"),
     "hostlib": ("kxhost", "tests/hostlib"),
 }
+# What the conformance program is run on: the library that it loads, and the test that runs it.
+CHECKED = {
+    "overlayeditor": ("overlayeditor", "conformance_plugin"),
+    "viewer/scene": ("viewerHost", "conformance_viewer"),
+    "kit": ("recordingHost", "conformance_recordingHost"),
+}
+# Of these folders only what makes the host: the rest is not part of what a host is checked for.
+HOST_FILES = {
+    "viewer/scene": ("OverlayService_nodes", "OverlayService_values", "MoveRule", "NodeLists"),
+    "kit": ("RecordingService_tree", "RecordingService_properties"),
+}
 UNUSABLE = "tst_initPlugin"  # loads the plug-in's file, which is empty beside the shared library
 WANTED = 0.95
 LEAST_PATIENCE = 20.0  # seconds for a test; a mutant may hang it
@@ -59,19 +73,30 @@ def copy_tree(root, copy):
 
 
 class Workshop:
-    """The copy, its build and the tests of one folder."""
+    """The copy, its build and what has to notice the mutants of one folder: its tests, or the
+    conformance program."""
 
-    def __init__(self, copy, folder):
+    def __init__(self, copy, folder, checked):
         self.copy = copy
         self.build = copy / "build"
-        self.library, self.folder_of_tests = PARTS[folder]
         self.tests = []
+        if checked:
+            self.library, test = CHECKED[folder]
+            self.folder_of_tests = "tests/conformance"
+            self.targets = ["conformance", self.library]
+            self.selection = ["-R", f"^{test}$"]
+            self.shared = "OFF"
+        else:
+            self.library, self.folder_of_tests = PARTS[folder]
+            self.targets = [f"{self.folder_of_tests}/all"]
+            self.selection = ["-E", UNUSABLE]
+            self.shared = "ON"
 
     def prepare(self):
-        flags = ["-DKX_SHARED_PARTS=ON", "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=-O1",
-                 "-DKX_BUILD_BENCH=OFF", "-G", "Ninja"]
+        flags = [f"-DKX_SHARED_PARTS={self.shared}", "-DCMAKE_BUILD_TYPE=Debug",
+                 "-DCMAKE_CXX_FLAGS_DEBUG=-O1", "-DKX_BUILD_BENCH=OFF", "-G", "Ninja"]
         self.must(["cmake", "-S", ".", "-B", "build", *flags])
-        self.must(["cmake", "--build", "build", "--target", f"{self.folder_of_tests}/all"])
+        self.must(["cmake", "--build", "build", "--target", *self.targets])
         self.tests = [Test(entry) for entry in self.listed()]
         for test in self.tests:
             if not test.passes(self.build, 600.0) and not test.passes(self.build, 600.0):
@@ -79,7 +104,7 @@ class Workshop:
 
     def listed(self):
         tests = self.build / self.folder_of_tests
-        shown = self.must(["ctest", "--test-dir", str(tests), "--show-only=json-v1", "-E", UNUSABLE])
+        shown = self.must(["ctest", "--test-dir", str(tests), "--show-only=json-v1", *self.selection])
         return json.loads(shown)["tests"]
 
     def must(self, command):
@@ -177,16 +202,23 @@ def try_one(workshop, name, mutant):
 def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("root", type=pathlib.Path)
-    parser.add_argument("--folder", choices=PARTS, default="overlayeditor")
+    parser.add_argument("--folder", choices={**PARTS, **CHECKED}, default="overlayeditor")
+    parser.add_argument("--conformance", action="store_true",
+                        help="the conformance program has to notice, not the tests")
     parser.add_argument("--count", type=int, default=100)
     parser.add_argument("--seed", type=int, default=random.randrange(10**6))
     parser.add_argument("--file", default="", help="break only files with this in their names")
     parser.add_argument("--copy", default="mutants", help="the copy's folder below ROOT/build")
     options = parser.parse_args()
     root = options.root.resolve()
-    workshop = Workshop(root / "build" / options.copy, options.folder)
+    if options.folder not in (CHECKED if options.conformance else PARTS):
+        parser.error(f"nothing is there to notice faults of {options.folder}")
+    workshop = Workshop(root / "build" / options.copy, options.folder, options.conformance)
     names = [name for name in copy_tree(root, workshop.copy)
              if name.startswith(options.folder + "/") and name.endswith(".cpp") and options.file in name]
+    if options.conformance and options.folder in HOST_FILES:
+        names = [name for name in names
+                 if any(part in name for part in HOST_FILES[options.folder])]
     workshop.prepare()
 
     pool = candidates(workshop.copy, names)

@@ -42,6 +42,12 @@ QString indexOfAnchor(const QPointF &position)
     return QString::number(isNone ? -1 : int(found - std::begin(s_anchors)));
 }
 
+/// What the service answers: what is no overlay has no type.
+int typeOf(const RecordingService::Node &node)
+{
+    return node.kind == notation::Kind::Overlay ? node.type : 0;
+}
+
 } // namespace
 
 PanelOracle::PanelOracle(const RecordingService &service) : m_service(service)
@@ -77,7 +83,7 @@ void PanelOracle::refreshAll(const QRPC::NodeList &selection)
     }
     for (const QString &property : qAsConst(refreshed)) {
         const bool isText =
-            m_service.has(selection.value(0)) && m_service.node(selection.value(0)).type == 0;
+            m_service.has(selection.value(0)) && typeOf(m_service.node(selection.value(0))) == 0;
         const bool isOfOtherType = property == "image" ? isText : !isText;
         const bool isOfOneType = property == "text" || property == "font" || property == "image"
                                  || property.endsWith("color") || property == "transparency";
@@ -142,7 +148,7 @@ bool PanelOracle::areOverlays(const QRPC::NodeList &nodes) const
 
 bool PanelOracle::areOfOneType(const QRPC::NodeList &nodes) const
 {
-    return agree(nodes, [](const Node &a, const Node &b) { return a.type == b.type; });
+    return agree(nodes, [](const Node &a, const Node &b) { return typeOf(a) == typeOf(b); });
 }
 
 /// Every node against the first, the first against itself: no number equals nothing.
@@ -166,14 +172,14 @@ void PanelOracle::showType(const QRPC::NodeList &nodes)
 {
     show(
         "_text_radio_button", nodes,
-        [](const Node &a, const Node &b) { return (a.type == 0) == (b.type == 0); },
-        [](const Node &node) { return node.type == 0 ? "checked" : ""; });
+        [](const Node &a, const Node &b) { return (typeOf(a) == 0) == (typeOf(b) == 0); },
+        [](const Node &node) { return typeOf(node) == 0 ? "checked" : ""; });
     const bool isMixed = m_controls["_text_radio_button"].mixed;
     for (const char *editor : s_editorsOfOneType)
         m_controls[editor].enabled = !isMixed;
     if (isMixed)
         return;
-    const bool isText = m_service.node(nodes.first()).type == 0;
+    const bool isText = typeOf(m_service.node(nodes.first())) == 0;
     m_controls["_image_radio_button"].value = isText ? "" : "checked";
     for (const char *name : s_shownForTexts)
         m_controls[name].visible = isText;

@@ -263,7 +263,7 @@ void tst_kxOverlayQtModel_structure::shouldSkipUnknownIdsOfARemoval()
 void tst_kxOverlayQtModel_structure::shouldNameAllRowsOfARemovalBeforeTheFirstGoes()
 {
     fill("a2 g3(b4) c5");
-    const QModelIndexList doomed{index(5), index(2)};
+    const QModelIndexList doomed{index(2), index(5)};
     QString shownThen;
     QModelIndexList named;
     const QObject listener;

@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "conformance/module/moduleChecks.h"
+#include "host/kxShortcut.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QMenu>
+#include <QToolBar>
+#include <QTranslator>
+
+namespace conformance {
+
+namespace {
+
+/// Answers for one context only and marks what it translated. Installed while it lives.
+class MarkingTranslator : public QTranslator
+{
+public:
+    explicit MarkingTranslator(const char *context) : m_context(context)
+    {
+        QCoreApplication::installTranslator(this);
+    }
+    ~MarkingTranslator() override { QCoreApplication::removeTranslator(this); }
+    Q_DISABLE_COPY(MarkingTranslator)
+
+    bool isEmpty() const override { return false; }
+
+    QString translate(const char *context, const char *text, const char *, int) const override
+    {
+        return qstrcmp(context, m_context) == 0 ? QLatin1Char('*') + QString::fromUtf8(text)
+                                                : QString();
+    }
+
+private:
+    const char *m_context;
+};
+
+void expectMarked(const char *what, const QString &text)
+{
+    expectEqual(what, text.left(1), QString("*"));
+}
+
+void translatesInCode(ModuleBench &bench)
+{
+    const MarkingTranslator translator("kxOverlayEditor");
+    bench.callEntry();
+    const HostFixture::Registration module = bench.host().registrations().first();
+    expectEqual("title", module.title, QString("*Overlays"));
+    expectEqual("name", module.name, QString("Overlay Editor"));
+    expectEqual("category", module.category, QString("Scene"));
+    expectEqual("help identifier", module.helpId, QString("Tipreel_Overlays"));
+    const QVector<kxShortcut::Entry> keys = kxShortcut::registeredKeys();
+    for (const kxShortcut::Entry &key : keys) {
+        expectMarked("category of a key", key.category);
+        expectMarked("description of a key", key.description);
+    }
+    const QList<QAction *> entries = bench.menu().actions();
+    for (const QAction *entry : entries) {
+        if (!entry->isSeparator())
+            expectMarked("entry of the menu", entry->text());
+    }
+    const auto *bar = bench.window().findChild<QToolBar *>("QuickActionBar");
+    expect("there is a bar", bar != nullptr);
+    expectMarked("title of the bar", bar->windowTitle());
+    const QList<QAction *> actions = bar->actions();
+    for (const QAction *action : actions) {
+        expectMarked("action", action->text());
+        expectMarked("tip of an action", action->statusTip());
+    }
+    const auto &box = bench.form<QComboBox>("_position_combo_box");
+    for (int i = 0; i < box.count(); ++i)
+        expectMarked("anchor", box.itemText(i));
+}
+
+void translatesInForm(ModuleBench &bench)
+{
+    const MarkingTranslator translator("kxOverlayEditorGUI");
+    bench.callEntry();
+    expectEqual("title", bench.window().windowTitle(), QString("*Overlay Editor"));
+    for (const char *name : {"_name_label", "_type_label_2", "_relative_radio_button"})
+        expectMarked(name, bench.form<QWidget>(name).property("text").toString());
+    for (const char *name : {"_property_frame", "_size_position_frame"})
+        expectMarked(name, bench.form<QWidget>(name).property("caption").toString());
+}
+
+} // namespace
+
+ModuleChecks textChecks()
+{
+    return {
+        {"texts.code", "Texts of the code are translated in the context kxOverlayEditor.",
+         translatesInCode, Stage::Fresh},
+        {"texts.form", "Texts of the form are translated in the context kxOverlayEditorGUI.",
+         translatesInForm, Stage::Fresh},
+    };
+}
+
+} // namespace conformance
