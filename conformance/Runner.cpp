@@ -80,8 +80,11 @@ void Runner::run(const std::function<void(const Result &)> &take)
         next += told.results;
         if (m_stops && told.hasFailure)
             return;
-        if (!told.isDone && next < count)
-            take(broken(m_suite->infos().at(size_t(next++)), told.hung, told.status));
+        if (told.isDone || next >= count)
+            continue;
+        take(broken(m_suite->infos().at(size_t(next++)), told.hung, told.status));
+        if (m_stops)
+            return;
     }
 }
 

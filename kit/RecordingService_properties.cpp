@@ -141,7 +141,7 @@ void RecordingService::write(const QString &line, const QRPC::NodeList &nodes,
     const QRPC::NodeList announced = idsOf(inOrder(touched));
     for (const Change changed : changes) {
         if (!announced.isEmpty())
-            Q_EMIT(this->*changed)(announced);
+            announce([=] { Q_EMIT(this->*changed)(announced); }, false);
     }
     finish(line);
 }

@@ -199,7 +199,7 @@ void RecordingService::groupNodes(const QRPC::NodeList &nodes)
     const QString line = noteWrite("groupNodes", nodes, QString());
     const QVector<Node *> members = m_applies ? tops(nodes) : QVector<Node *>();
     if (!members.isEmpty()) {
-        const Node *topmost = inOrder(members).first();
+        const Node *topmost = inOrder(members).constFirst();
         Node *parent = topmost->parent;
         const QString name = QStringLiteral("n%1").arg(m_nextId);
         Node *group = adopt(parent, parent->children.indexOf(const_cast<Node *>(topmost)),

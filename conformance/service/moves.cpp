@@ -71,6 +71,9 @@ const MoveCase s_cases[] = {
      "g(a-)", "a / g / 0", "a"},
     {"intoShowingSwitch", "A node enters a switch that shows a child disabled.", "a s*(b c-)", "a",
      "s", 0, "s*(a- b c-)", "a / s / 0", "a"},
+    {"intoDisabledSwitch",
+     "What a disabled switch disables is announced beside the switch, which stands for what moved.",
+     "a s*-(b c-)", "a", "s", 0, "s*-(a- b c-)", "a / s / 0", "s a"},
     {"intoSwitchThatShowsNone", "Of nodes that enter a switch which shows none, one stays enabled.",
      "a b s*(c-)", "a b", "s", 1, "s*(c- a b-)", "a b / s s / c a", "a b"},
     {"withinSwitch", "A move within a switch changes no state.", "s*(a b- c-)", "a", "s", 3,
@@ -110,8 +113,8 @@ HostChecks ruleChecks()
 }
 
 /// Runs `act` from a slot of nodesMoved() and tells which structural signals came before moveNodes()
-/// had returned.
-void expectQueued(HostBench &bench, const std::function<void()> &act)
+/// had returned. Returns what came afterwards.
+QStringList expectQueued(HostBench &bench, const std::function<void()> &act)
 {
     bench.build("a b g()");
     const QObject context;
@@ -125,9 +128,11 @@ void expectQueued(HostBench &bench, const std::function<void()> &act)
     for (const QString &line : inside) {
         for (const char *signal : {"nodesAdded", "nodesCreated", "nodesRemoved", "modelReset"})
             expect(signal, !line.startsWith(QLatin1String(signal)));
+        expect("no signal names a node before it is announced", !line.contains('+'));
     }
     const QStringList later = bench.signalsOf([] { QCoreApplication::processEvents(); });
     expect("it is announced once the move has returned", !later.isEmpty());
+    return later;
 }
 
 HostChecks queueChecks()
@@ -144,6 +149,18 @@ HostChecks queueChecks()
         {"move.queuesCopies", "Nodes copied while a move is announced are announced after it.",
          [](HostBench &bench) {
              expectQueued(bench, [&bench] { bench.service().duplicateNodes(bench.ids("b")); });
+         }},
+        {"move.queuesWhatFollows",
+         "What happens to a node whose creation waits to be announced is announced after it.",
+         [](HostBench &bench) {
+             const QStringList later = expectQueued(bench, [&bench] {
+                 kxOverlayService &s = bench.service();
+                 const QRPC::NodeId node = s.createOverlay(bench.id("g"));
+                 s.setName({node}, "x");
+                 s.moveNodes({node}, s.getRootNode(), 0);
+             });
+             expectEqual("first signal", later.first(), QString("nodesAdded +1"));
+             expect("the move is announced", later.contains("nodesMoved +1 / root / 0"));
          }},
     };
 }

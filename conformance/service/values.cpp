@@ -204,6 +204,9 @@ HostChecks oddValueChecks() // NOLINT(readability-function-size)
              expectEqual("signals", bench.signalsOf([&] { s.setImage(bench.ids("a"), QString()); }),
                          QStringList("imageChanged a"));
              expectEqual("image", s.getImage(bench.id("a")), QString());
+             expectEqual("signals of the second time",
+                         bench.signalsOf([&] { s.setImage(bench.ids("a"), QString()); }),
+                         QStringList());
          }},
         {"write.imageUnchanged", "The path that an overlay has already is announced again.",
          [](HostBench &bench) {
