@@ -553,6 +553,22 @@ Ein Lauf ohne Fenster gibt zurück:
         <source>Scripts (*.js);;All files (*)</source>
         <translation>Skripte (*.js);;Alle Dateien (*)</translation>
     </message>
+    <message>
+        <source>File Changed</source>
+        <translation>Datei geändert</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; was changed by another program since it was last opened or saved here.</source>
+        <translation>Die Datei „%1“ wurde von einem anderen Programm geändert, seit sie hier zuletzt geöffnet oder gespeichert wurde.</translation>
+    </message>
+    <message>
+        <source>Saving overwrites these changes. To keep both, cancel and save under another name.</source>
+        <translation>Speichern überschreibt diese Änderungen. Um beides zu behalten, abbrechen und unter einem anderen Namen speichern.</translation>
+    </message>
+    <message>
+        <source>&amp;Overwrite</source>
+        <translation>&amp;Überschreiben</translation>
+    </message>
 </context>
 <context>
     <name>viewer::GuideWindow</name>

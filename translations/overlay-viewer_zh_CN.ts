@@ -553,6 +553,22 @@ A headless run returns:
         <source>Scripts (*.js);;All files (*)</source>
         <translation>脚本 (*.js);;所有文件 (*)</translation>
     </message>
+    <message>
+        <source>File Changed</source>
+        <translation>文件已更改</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; was changed by another program since it was last opened or saved here.</source>
+        <translation>自上次在此处打开或保存以来，文件“%1”已被其他程序更改。</translation>
+    </message>
+    <message>
+        <source>Saving overwrites these changes. To keep both, cancel and save under another name.</source>
+        <translation>保存会覆盖这些更改。要保留两者，请取消并以其他名称保存。</translation>
+    </message>
+    <message>
+        <source>&amp;Overwrite</source>
+        <translation>覆盖(&amp;O)</translation>
+    </message>
 </context>
 <context>
     <name>viewer::GuideWindow</name>

@@ -41,6 +41,21 @@ FileQuestions::Answer FileQuestions::aboutChanges(const QString &name)
     return answerOf(box.exec());
 }
 
+bool FileQuestions::mayOverwrite(const QString &name)
+{
+    QMessageBox box(
+        QMessageBox::Warning, tr("File Changed"),
+        tr("The file \"%1\" was changed by another program since it was last opened or saved here.")
+            .arg(name),
+        QMessageBox::Save | QMessageBox::Cancel, m_window);
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(
+        tr("Saving overwrites these changes. To keep both, cancel and save under another name."));
+    box.button(QMessageBox::Save)->setText(tr("&Overwrite"));
+    box.setDefaultButton(QMessageBox::Cancel);
+    return box.exec() == QMessageBox::Save;
+}
+
 FileQuestions::Answer FileQuestions::aboutRecovery(const QString &name, const QString &when)
 {
     QMessageBox box(QMessageBox::Question, tr("Recover Work"),

@@ -26,6 +26,9 @@ public:
     /// What to do with the changes of a scene that is about to go.
     virtual Answer aboutChanges(const QString &name);
 
+    /// Whether to write over what another program has written into the scene's file meanwhile.
+    virtual bool mayOverwrite(const QString &name);
+
     /// Whether to take up what an earlier run left behind: yes (Save), no and forget it (Discard),
     /// or not now.
     virtual Answer aboutRecovery(const QString &name, const QString &when);

@@ -86,6 +86,7 @@ void SceneDocument::open(const QString &file)
 
 bool SceneDocument::load(const QString &file)
 {
+    const FileState state = stateOf(file); // before what is read
     SceneReading reading = SceneReader::read(file);
     if (!reading.scene) {
         emit reported(Severity::Error, reading.error);
@@ -95,6 +96,7 @@ bool SceneDocument::load(const QString &file)
     m_service->setScene(std::move(*reading.scene));
     const QString path = QFileInfo(file).absoluteFilePath();
     setPath(path);
+    m_state = state;
     remember(path);
     emit opened(path);
     const QStringList warnings = reading.warnings + reading.missingImages;
@@ -103,12 +105,15 @@ bool SceneDocument::load(const QString &file)
     return true;
 }
 
-void SceneDocument::setUnsavedScene(Scene scene, const QString &path)
+void SceneDocument::setUnsavedScene(Scene scene, const QString &path, const QDateTime &time)
 {
     emit aboutToReplace();
     m_service->setScene(std::move(scene));
     m_service->history().setUnsaved();
     setPath(path);
+    m_state = stateOf(path);
+    if (m_state.time > time)
+        m_state = {};
 }
 
 bool SceneDocument::save()
@@ -116,7 +121,7 @@ bool SceneDocument::save()
     if (m_path.isEmpty())
         return saveAs();
     emit editsWanted();
-    return write(m_path);
+    return mayWrite() && write(m_path);
 }
 
 bool SceneDocument::saveAs()
@@ -124,6 +129,21 @@ bool SceneDocument::saveAs()
     emit editsWanted();
     const QString file = m_questions->fileToSave(m_path);
     return !file.isEmpty() && write(QFileInfo(file).absoluteFilePath());
+}
+
+SceneDocument::FileState SceneDocument::stateOf(const QString &file)
+{
+    const QFileInfo info(file);
+    return info.exists() ? FileState{info.lastModified(), info.size()} : FileState();
+}
+
+/// Whether the file still holds what was read from it or written into it, or may lose what it holds
+/// instead. One that is gone has nothing to lose.
+bool SceneDocument::mayWrite()
+{
+    const FileState now = stateOf(m_path);
+    const bool isKnown = now.time == m_state.time && now.size == m_state.size;
+    return isKnown || !now.time.isValid() || m_questions->mayOverwrite(name());
 }
 
 bool SceneDocument::write(const QString &file)
@@ -135,6 +155,7 @@ bool SceneDocument::write(const QString &file)
     }
     m_service->history().setSaved();
     setPath(file);
+    m_state = stateOf(file);
     remember(file);
     emit saved(file);
     if (!writing.warnings.isEmpty())

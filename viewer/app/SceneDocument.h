@@ -7,6 +7,7 @@
 #include "viewer/app/NoticeArea.h"
 #include "viewer/scene/OverlayService.h"
 
+#include <QDateTime>
 #include <QObject>
 
 class QSettings;
@@ -42,8 +43,9 @@ public:
     /// Opens a file without asking. False, with a report, when it is bad.
     bool load(const QString &file);
 
-    /// Puts up a scene that no file holds in this state.
-    void setUnsavedScene(Scene scene, const QString &path);
+    /// Puts up a scene that no file holds in this state. What the file at `path` has held since
+    /// `time` is the work of others.
+    void setUnsavedScene(Scene scene, const QString &path, const QDateTime &time);
 
     /// Warnings for the user, shortened: a scene with a thousand missing images must not bury the
     /// view.
@@ -84,6 +86,15 @@ Q_SIGNALS:
     void reported(viewer::Severity severity, const QString &text);
 
 private:
+    /// What tells whether a file has been written by others.
+    struct FileState
+    {
+        QDateTime time; // invalid for no file, or an unknown one
+        qint64 size = 0;
+    };
+
+    static FileState stateOf(const QString &file);
+    bool mayWrite();
     bool write(const QString &file);
     void setPath(const QString &path);
     void remember(const QString &file);
@@ -92,6 +103,7 @@ private:
     FileQuestions *m_questions;
     QSettings *m_settings;
     QString m_path;
+    FileState m_state; // of the file when it was read or written here
 };
 
 } // namespace viewer

@@ -180,7 +180,7 @@ void ViewerSession::offerLostWork()
             return;
         const bool isWanted = answer == FileQuestions::Answer::Save;
         if (isWanted) {
-            m_document.setUnsavedScene(std::move(*scene), work.path);
+            m_document.setUnsavedScene(std::move(*scene), work.path, work.time);
             if (!m_journal->flush())
                 return; // the old journal is the only copy
         }

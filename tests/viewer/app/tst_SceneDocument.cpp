@@ -32,12 +32,18 @@ public:
         asked.append(name);
         return answer;
     }
+    bool mayOverwrite(const QString &name) override
+    {
+        overwritten.append(name);
+        return answer == Answer::Save;
+    }
     QString fileToOpen(const QString &) override { return file; }
     QString fileToSave(const QString &) override { return file; }
 
     Answer answer = Answer::Cancel;
     QString file;
     QStringList asked;
+    QStringList overwritten;
 };
 
 } // namespace
@@ -55,6 +61,13 @@ private Q_SLOTS:
     void shouldAskOnceBeforeTheSceneGoes_data();
     void shouldAskOnceBeforeTheSceneGoes();
     void shouldKeepAllWhenSavingFails();
+    void shouldAskBeforeItOverwritesTheWorkOfOthers_data();
+    void shouldAskBeforeItOverwritesTheWorkOfOthers();
+    void shouldNoticeWhatOthersWriteWhileItOpens();
+    void shouldNotTakeItsOwnFilesForTheWorkOfOthers();
+    void shouldSaveWhereTheFileIsGone();
+    void shouldTellRecoveredWorkFromThatOfOthers_data();
+    void shouldTellRecoveredWorkFromThatOfOthers();
     void shouldKeepAllWhenAFileIsBad();
     void shouldBeUnmodifiedWhereItWasSaved();
     void shouldTakeImagesFromTheFoldersOfItsFiles();
@@ -62,6 +75,8 @@ private Q_SLOTS:
 
 private:
     QString file(const QString &name) const { return m_folder->filePath(name); }
+    QByteArray content(const QString &name) const;
+    void writeAsAnother(const QString &name) const;
     void edit() { m_service->createOverlay(Scene::RootId); }
     int nodes() const { return m_service->getChildCount(Scene::RootId); }
 
@@ -173,6 +188,106 @@ void tst_SceneDocument::shouldKeepAllWhenSavingFails()
     QVERIFY(m_document->isModified());
     QCOMPARE(m_document->path(), QString());
     QCOMPARE(reports.count(), 1);
+}
+
+QByteArray tst_SceneDocument::content(const QString &name) const
+{
+    QFile text(file(name));
+    return text.open(QIODevice::ReadOnly) ? text.readAll() : QByteArray();
+}
+
+/// As another program does, some time later.
+void tst_SceneDocument::writeAsAnother(const QString &name) const
+{
+    QFile text(file(name));
+    QVERIFY(text.open(QIODevice::ReadWrite));
+    const QDateTime later = text.fileTime(QFileDevice::FileModificationTime).addSecs(60);
+    QVERIFY(text.write("{}") > 0 && text.flush());
+    QVERIFY(text.setFileTime(later, QFileDevice::FileModificationTime));
+}
+
+void tst_SceneDocument::shouldAskBeforeItOverwritesTheWorkOfOthers_data()
+{
+    QTest::addColumn<bool>("isOpened"); // rather than saved
+    QTest::newRow("opened") << true;
+    QTest::newRow("saved") << false;
+}
+
+void tst_SceneDocument::shouldAskBeforeItOverwritesTheWorkOfOthers()
+{
+    QFETCH(bool, isOpened);
+    m_answers->file = file("a.json");
+    QVERIFY(m_document->save());
+    QVERIFY(!isOpened || m_document->load(file("a.json")));
+    writeAsAnother("a.json");
+    const QByteArray theirs = content("a.json");
+    edit();
+    QVERIFY(!m_document->save());
+    QCOMPARE(m_answers->overwritten, QStringList("a.json"));
+    QCOMPARE(content("a.json"), theirs);
+    QVERIFY(m_document->isModified());
+    m_answers->answer = Answer::Save;
+    QVERIFY(m_document->save());
+    QVERIFY(content("a.json") != theirs);
+    edit();
+    QVERIFY(m_document->save());
+    QCOMPARE(m_answers->overwritten.size(), 2);
+}
+
+void tst_SceneDocument::shouldNoticeWhatOthersWriteWhileItOpens()
+{
+    m_answers->file = file("a.json");
+    QVERIFY(m_document->save());
+    connect(m_document.get(), &SceneDocument::aboutToReplace, this,
+            [this] { writeAsAnother("a.json"); }); // when the file has been read
+    QVERIFY(m_document->load(file("a.json")));
+    QVERIFY(!m_document->save());
+    QCOMPARE(m_answers->overwritten, QStringList("a.json"));
+}
+
+void tst_SceneDocument::shouldNotTakeItsOwnFilesForTheWorkOfOthers()
+{
+    m_answers->file = file("a.json");
+    for (int i = 0; i < 3; ++i) {
+        edit();
+        QVERIFY(m_document->save());
+    }
+    m_document->open(file("a.json"));
+    edit();
+    QVERIFY(m_document->save());
+    writeAsAnother("a.json");
+    QVERIFY(m_document->saveAs()); // whoever chose the file has agreed
+    QCOMPARE(m_answers->overwritten, QStringList());
+}
+
+void tst_SceneDocument::shouldSaveWhereTheFileIsGone()
+{
+    m_answers->file = file("a.json");
+    QVERIFY(m_document->save());
+    QVERIFY(QFile::remove(file("a.json")));
+    QVERIFY(m_document->save());
+    QVERIFY(QFile::exists(file("a.json")));
+    QCOMPARE(m_answers->overwritten, QStringList());
+}
+
+void tst_SceneDocument::shouldTellRecoveredWorkFromThatOfOthers_data()
+{
+    QTest::addColumn<int>("seconds"); // from the last change that was recovered to the file
+    QTest::addColumn<int>("questions");
+    QTest::newRow("the file is older") << -60 << 0;
+    QTest::newRow("the file is newer") << 60 << 1;
+}
+
+void tst_SceneDocument::shouldTellRecoveredWorkFromThatOfOthers()
+{
+    QFETCH(int, seconds);
+    QFETCH(int, questions);
+    writeAsAnother("a.json");
+    const QDateTime time = QFileInfo(file("a.json")).lastModified().addSecs(-seconds);
+    m_document->setUnsavedScene(Scene(), file("a.json"), time);
+    m_answers->answer = Answer::Save;
+    QVERIFY(m_document->save());
+    QCOMPARE(m_answers->overwritten.size(), questions);
 }
 
 void tst_SceneDocument::shouldKeepAllWhenAFileIsBad()

@@ -234,6 +234,7 @@ void WholeViewer::visitDialogs()
     visitModal("about", [this] { action("about")->trigger(); });
     FileQuestions questions(window);
     visitModal("unsaved changes", [&] { questions.aboutChanges("1.json"); });
+    visitModal("a changed file", [&] { questions.mayOverwrite("1.json"); });
     visitModal("recovery", [&] { questions.aboutRecovery("1.json", "1"); });
     visitModal("open a scene", [&] { questions.fileToOpen(m_folder.path()); });
     visitModal("save a scene", [&] { questions.fileToSave(QString()); });
