@@ -9,6 +9,7 @@ import tempfile
 import unittest
 
 import arrows
+import pictures
 import rules
 import snippets
 
@@ -160,6 +161,42 @@ class Snippets(Tree):
         self.assertEqual(snippets.faults(self.root), [])
         text = (self.root / "docs/a.md").read_text(encoding="utf-8")
         self.assertEqual(text, self.QUOTED.replace("int b", "int d"))
+
+
+class Pictures(Tree):
+    TABLE = '        {"a.png", &GuidePictures::takeA},\n'
+    SHOWN = "text\n![a](images/a.png)\n"
+
+    def check(self, table, document, *stored):
+        self.add(pictures.PROGRAM, table)
+        self.add("docs/a.md", document)
+        for name in stored:
+            self.add(f"docs/images/{name}", "picture")
+        return pictures.faults(self.root)
+
+    def test_should_accept_what_is_taken_stored_and_shown(self):
+        self.assertEqual(self.check(self.TABLE, self.SHOWN, "a.png"), [])
+        self.add("README.md", "![a](docs/images/a.png)\n")
+        self.assertEqual(pictures.faults(self.root), [])
+
+    def test_should_find_a_picture_that_would_grow_old(self):
+        self.assertIn("docs/a.md:2: ./dev docs does not take docs/images/a.png",
+                      self.check("", self.SHOWN, "a.png"))
+
+    def test_should_find_a_missing_picture(self):
+        self.assertEqual(self.check(self.TABLE, self.SHOWN),
+                         ["docs/a.md:2: docs/images/a.png is missing"])
+
+    def test_should_find_a_picture_that_nobody_sees(self):
+        self.assertEqual(self.check(self.TABLE, "text\n", "a.png"),
+                         [f"{pictures.PROGRAM}: docs/images/a.png is shown nowhere"])
+        self.assertIn("docs/images/b.png is taken by nobody",
+                      self.check(self.TABLE, self.SHOWN, "a.png", "b.png"))
+
+    def test_should_find_a_picture_that_is_too_large(self):
+        self.check(self.TABLE, self.SHOWN, "a.png")
+        self.add("docs/images/a.png", "a" * (pictures.LARGEST + 1))
+        self.assertEqual(len(pictures.faults(self.root)), 1)
 
 
 if __name__ == "__main__":

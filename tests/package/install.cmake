@@ -34,6 +34,8 @@ want_files(
     ${DATADIR}/examples/title_sheet.json
     ${DATADIR}/examples/images/*.svg
     ${DATADIR}/docs/USER_GUIDE.md
+    ${DATADIR}/docs/SCRIPTING.md
+    ${DATADIR}/docs/HEADLESS.md
     ${DATADIR}/examples/minimal_host/CMakeLists.txt
     ${DATADIR}/translations/*_de.qm
     ${DATADIR}/translations/*_zh_CN.qm)

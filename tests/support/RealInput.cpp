@@ -39,6 +39,11 @@ void click(const QWidget &widget, const QPoint &place, const QStringList &heldKe
     run(arguments);
 }
 
+void rightClick(const QWidget &widget, const QPoint &place)
+{
+    run(motion(widget, place) + QStringList{"click", "3"});
+}
+
 void key(const QString &name)
 {
     run({"key", name});

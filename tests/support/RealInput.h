@@ -16,6 +16,9 @@ namespace realInput {
 /// Clicks at a place in a widget with the left button, while the named keys ("ctrl") are held.
 void click(const QWidget &widget, const QPoint &place, const QStringList &heldKeys = {});
 
+/// Clicks with the right button.
+void rightClick(const QWidget &widget, const QPoint &place);
+
 /// Presses and releases a key by its X name ("Delete", "ctrl+a").
 void key(const QString &name);
 
