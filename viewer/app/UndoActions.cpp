@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QTimer>
 
 namespace viewer {
 
@@ -39,7 +40,7 @@ UndoActions::UndoActions(OverlayService *service, QMenu *menu)
     menu->addSeparator();
     const QUndoStack *stack = service->history().stack();
     connect(stack, &QUndoStack::indexChanged, this, &UndoActions::refresh);
-    connect(qApp, &QApplication::focusChanged, this, [this] { m_service->history().endGesture(); });
+    connect(qApp, &QApplication::focusChanged, this, &UndoActions::endGesture);
     qApp->installEventFilter(this);
     refresh();
 }
@@ -70,12 +71,43 @@ bool UndoActions::eventFilter(QObject *watched, QEvent *event)
         event->ignore();
         return true;
     }
+    watchDialogs(*event);
     watchMouse(*event);
     return QObject::eventFilter(watched, event);
 }
 
+void UndoActions::endGesture()
+{
+    if (!m_isInDialog)
+        m_service->history().endGesture();
+}
+
+/// All that is tried in a dialog is one gesture, which may end where it began.
+void UndoActions::watchDialogs(const QEvent &event)
+{
+    if (event.type() == QEvent::WindowBlocked) {
+        endGesture();
+        m_isInDialog = true;
+        m_service->history().setHeld(true);
+    } else if (event.type() == QEvent::WindowUnblocked) {
+        // One that is cancelled takes its changes back when it has been closed.
+        QTimer::singleShot(0, this, &UndoActions::leaveDialog);
+    }
+}
+
+void UndoActions::leaveDialog()
+{
+    if (QApplication::activeModalWidget())
+        return;
+    m_isInDialog = false;
+    m_service->history().setHeld(false);
+    endGesture();
+}
+
 void UndoActions::watchMouse(const QEvent &event)
 {
+    if (m_isInDialog)
+        return;
     History &history = m_service->history();
     if (event.type() == QEvent::MouseButtonPress) {
         history.endGesture();

@@ -162,6 +162,7 @@ private:
     Step stepOf(Operation operation, const QRPC::NodeList &nodes) const;
     void record(Operation operation, const QRPC::NodeList &nodes, SceneChange change);
     void recordAdded(Operation operation, const QRPC::NodeList &tops);
+    void recordAdded(Operation operation, const QRPC::NodeList &tops, const QRPC::NodeList &named);
     void restore(SceneChange::Direction direction);
     void restoreParts();
     void finishRestoring();

@@ -87,9 +87,15 @@ void OverlayService::record(Operation operation, const NodeList &nodes, SceneCha
 
 void OverlayService::recordAdded(Operation operation, const NodeList &tops)
 {
+    recordAdded(operation, tops, tops);
+}
+
+/// The step is called by other nodes than it adds.
+void OverlayService::recordAdded(Operation operation, const NodeList &tops, const NodeList &named)
+{
     SceneChange change;
     change.after = SceneChange::placesOf(m_scene, tops);
-    record(operation, tops, std::move(change));
+    record(operation, named, std::move(change));
 }
 
 void OverlayService::undo()

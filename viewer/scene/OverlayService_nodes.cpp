@@ -170,7 +170,7 @@ void OverlayService::duplicateNodes(const NodeList &nodes)
     }
     copies = inTreeOrder(m_scene, copies);
     if (!copies.isEmpty())
-        recordAdded(Operation::Duplicate, copies);
+        recordAdded(Operation::Duplicate, copies, originals);
     announceStructure(&kxOverlayService::nodesAdded, copies);
     announceCreated(copies);
 }

@@ -227,6 +227,11 @@ void tst_History::shouldNameTheStep_data()
         [](auto &s, auto of) { s.setFontColor(of("a b g"), Qt::red); });
     row("Set font colour of \"a\"", [](auto &s, auto of) { s.setFontColor(of("a"), Qt::red); });
     row("Create \"Text 1\"", [](auto &s, auto) { s.createOverlay(Scene::RootId); });
+    row("Create \"Group 1\"", [](auto &s, auto) { s.createGroup(Scene::RootId); });
+    row("Create \"Switch 1\"", [](auto &s, auto) { s.createSwitch(Scene::RootId); });
+    row("Duplicate \"a\"", [](auto &s, auto of) { s.duplicateNodes(of("a")); });
+    row("Duplicate 2 items", [](auto &s, auto of) { s.duplicateNodes(of("a g")); });
+    row("Delete \"a\"", [](auto &s, auto of) { s.deleteNodes(of("a")); });
     row("Delete 2 items", [](auto &s, auto of) { s.deleteNodes(of("a g")); });
     row("Group 2 items", [](auto &s, auto of) { s.groupNodes(of("a g")); });
     row("Move \"a\"", [](auto &s, auto of) { s.moveNodes(of("a"), of("g").first(), 0); });
@@ -235,6 +240,22 @@ void tst_History::shouldNameTheStep_data()
         s.setOffsets({{of("a").first(), {2, 0}}});
     });
     row("Rename to \"z\"", [](auto &s, auto of) { s.setName(of("a"), "z"); });
+    row("Rename 2 items", [](auto &s, auto of) { s.setName(of("a b"), "z"); });
+    row("Switch on \"c\"", [](auto &s, auto of) { s.setEnabled(of("c"), true); });
+    row("Switch off \"a\"", [](auto &s, auto of) { s.setEnabled(of("a"), false); });
+    row("Set type of \"a\"", [](auto &s, auto of) { s.setOverlayType(of("a"), 1); });
+    row("Set text of 2 overlays", [](auto &s, auto of) { s.setText(of("a b"), "t"); });
+    row("Set font of \"a\"", [](auto &s, auto of) { s.setFont(of("a"), "Other"); });
+    row("Set background colour of \"a\"",
+        [](auto &s, auto of) { s.setBackgroundColor(of("a"), Qt::red); });
+    row("Set background transparency of \"a\"",
+        [](auto &s, auto of) { s.setBackgroundTransparency(of("a"), Qt::red); });
+    row("Set image of \"a\"", [](auto &s, auto of) { s.setImage(of("a"), "/a.png"); });
+    row("Set size type of \"a\"", [](auto &s, auto of) { s.setSizeType(of("a"), 1); });
+    row("Set size of \"a\"", [](auto &s, auto of) { s.setSize(of("a"), 3.0F); });
+    row("Set anchor of \"a\"", [](auto &s, auto of) { s.setPosition(of("a"), {0.25, 0.25}); });
+    row("Set horizontal offset of \"a\"", [](auto &s, auto of) { s.setOffsetX(of("a"), 3.0F); });
+    row("Set vertical offset of \"a\"", [](auto &s, auto of) { s.setOffsetY(of("a"), 3.0F); });
     row("Switch off 2 items", [](auto &s, auto of) { s.setEnabled(of("a b"), false); });
     row("Toggle 2 items", [](auto &s, auto of) {
         s.setEnabled(of("a"), false);
