@@ -106,7 +106,8 @@ void ScriptCall::read(int index, NodeList *nodes)
     for (quint32 i = 0; isRight && i < count; ++i) {
         const QJSValue value = list.property(i);
         isRight = isNode(value);
-        nodes->append(m_steps->toService(value.toNumber()));
+        if (isRight)
+            nodes->append(m_steps->toService(value.toNumber()));
     }
     if (!isRight)
         refuse(index, QT_TR_NOOP("%1: \"%2\" must be an array with the ids of nodes."));

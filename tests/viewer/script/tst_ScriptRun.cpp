@@ -153,6 +153,7 @@ void tst_ScriptRun::shouldSayWhatWasExpected_data()
     row("overlays.getName(null)", "id of a node");
     row("overlays.deleteNodes(1)", "\"nodes\" must be an array with the ids of nodes");
     row("overlays.deleteNodes([1, 'x'])", "\"nodes\" must be an array with the ids of nodes");
+    row("overlays.deleteNodes([1, -11, 2])", "\"nodes\" must be an array with the ids of nodes");
     row("overlays.getChild(1, 0.5)", "\"index\" must be a whole number");
     row("overlays.getChild(1, 4294967295)", "\"index\" must be a whole number");
     row("overlays.setName([1], 5)", "\"name\" must be a string");
