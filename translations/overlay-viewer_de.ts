@@ -619,6 +619,14 @@ Ein Lauf ohne Fenster gibt zurück:
         <source>Warning: the image &quot;%1&quot; cannot be read, but is not shown either.</source>
         <translation>Warnung: Das Bild „%1“ kann nicht gelesen werden, wird aber auch nicht gezeigt.</translation>
     </message>
+    <message>
+        <source>its format knows no transparency, as PNG does</source>
+        <translation>das Format kennt anders als PNG keine Transparenz</translation>
+    </message>
+    <message>
+        <source>Still reading the images of &quot;%1&quot; after %2 s.</source>
+        <translation>Die Bilder von „%1“ werden nach %2 s noch gelesen.</translation>
+    </message>
 </context>
 <context>
     <name>viewer::HistoryModel</name>

@@ -619,6 +619,14 @@ A headless run returns:
         <source>Warning: the image &quot;%1&quot; cannot be read, but is not shown either.</source>
         <translation>警告：无法读取图像“%1”，但它也未被显示。</translation>
     </message>
+    <message>
+        <source>its format knows no transparency, as PNG does</source>
+        <translation>该格式不支持透明，PNG 则支持</translation>
+    </message>
+    <message>
+        <source>Still reading the images of &quot;%1&quot; after %2 s.</source>
+        <translation>%2 秒后仍在读取“%1”的图像。</translation>
+    </message>
 </context>
 <context>
     <name>viewer::HistoryModel</name>

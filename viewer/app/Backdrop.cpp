@@ -3,6 +3,7 @@
 
 #include "viewer/app/Backdrop.h"
 
+#include "viewer/app/OverlayLayer.h"
 #include "viewer/app/StudioColors.h"
 
 #include <QPainter>
@@ -58,17 +59,27 @@ Backdrop::Backdrop(QWidget *parent) : QWidget(parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
+// Put on the window as a picture of its own, as an export is: gradients that are drawn elsewhere in a
+// window are rounded otherwise. It also lasts, while the overlays above it change.
 void Backdrop::paintEvent(QPaintEvent *)
 {
-    QPainter painter(this);
-    paint(&painter, rect());
+    const QSize size = OverlayLayer::geometryOf(*this).size;
+    if (m_picture.size() != size)
+        m_picture = picture(size);
+    m_picture.setDevicePixelRatio(devicePixelRatioF());
+    QPainter(this).drawImage(0, 0, m_picture);
     emit painted();
 }
 
-void Backdrop::paint(QPainter *painter, const QRect &area)
+QImage Backdrop::picture(const QSize &size)
 {
-    paintWall(painter, area);
-    paintFloor(painter, area);
+    QImage image(size, QImage::Format_RGB32);
+    if (image.isNull())
+        return image;
+    QPainter painter(&image);
+    paintWall(&painter, image.rect());
+    paintFloor(&painter, image.rect());
+    return image;
 }
 
 } // namespace viewer

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QImage>
 #include <QWidget>
 
 namespace viewer {
@@ -16,8 +17,8 @@ class Backdrop : public QWidget
 public:
     explicit Backdrop(QWidget *parent = nullptr);
 
-    /// Paints what the widget shows into an area at the painter's origin; for exports.
-    static void paint(QPainter *painter, const QRect &area);
+    /// What the widget shows in a view of `size` pixels; for exports too. Null without the memory.
+    static QImage picture(const QSize &size);
 
 Q_SIGNALS:
     /// One frame is painted.
@@ -25,6 +26,9 @@ Q_SIGNALS:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+
+private:
+    QImage m_picture; // of the size that was shown last
 };
 
 } // namespace viewer

@@ -6,11 +6,13 @@
 #include "viewer/app/Backdrop.h"
 #include "viewer/app/InterruptWatch.h"
 #include "viewer/app/ModuleLoader.h"
+#include "viewer/app/OverlayLayer.h"
 #include "viewer/app/ProgressReport.h"
 #include "viewer/scene/SceneReader.h"
 #include "viewer/scene/SceneWriter.h"
 #include "viewer/script/ScriptRun.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QImageReader>
 #include <QImageWriter>
@@ -35,6 +37,16 @@ void tell(const QStringList &texts)
         tell(text);
 }
 
+/// Whether a picture that is written in a format comes back with what it lets through.
+bool keepsTransparency(const QByteArray &format)
+{
+    QImage dot(1, 1, QImage::Format_ARGB32);
+    dot.fill(Qt::transparent);
+    QBuffer file;
+    return QImageWriter(&file, format).write(dot)
+           && QImage::fromData(file.data(), format.constData()).hasAlphaChannel();
+}
+
 } // namespace
 
 HeadlessRun::HeadlessRun(const CommandLine &line) : m_line(line) {}
@@ -55,16 +67,16 @@ HeadlessRun::ExitCode HeadlessRun::run()
 QImage HeadlessRun::picture()
 {
     const Headless &wanted = m_line.headless;
-    QImage image(wanted.size,
-                 wanted.isTransparent ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
-    if (image.isNull())
-        return image;
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    if (!wanted.isTransparent)
-        Backdrop::paint(&painter, image.rect());
-    m_painter.paint(painter, wanted.size, wanted.dpi);
-    return image;
+    const auto draw = [this](QPainter *painter, const QSize &size, double dpi) {
+        m_painter.paint(*painter, size, dpi);
+    };
+    const QImage overlayPicture = OverlayLayer::picture({wanted.size, wanted.dpi}, draw);
+    if (wanted.isTransparent || overlayPicture.isNull())
+        return overlayPicture;
+    QImage view = Backdrop::picture(wanted.size);
+    if (!view.isNull())
+        QPainter(&view).drawImage(0, 0, overlayPicture);
+    return view;
 }
 
 HeadlessRun::ExitCode HeadlessRun::loadModules()
@@ -137,14 +149,24 @@ HeadlessRun::ExitCode HeadlessRun::exportPicture()
     if (file.isEmpty())
         return Done;
     const ProgressReport progress(tr("Still drawing \"%1\" after %2 s."), file);
-    const QImage image = picture();
-    QImageWriter writer(file);
-    if (!image.isNull() && writer.write(image))
+    const QString fault = writePicture(file);
+    if (fault.isEmpty())
         return Done;
-    tell(tr("The picture \"%1\" cannot be written: %2")
-             .arg(QDir::toNativeSeparators(file),
-                  image.isNull() ? tr("it needs too much memory") : writer.errorString()));
+    tell(tr("The picture \"%1\" cannot be written: %2").arg(QDir::toNativeSeparators(file), fault));
     return NotWritten;
+}
+
+QString HeadlessRun::writePicture(const QString &file)
+{
+    const QByteArray format = QFileInfo(file).suffix().toLower().toLatin1();
+    const bool isKnown = QImageWriter::supportedImageFormats().contains(format);
+    if (m_line.headless.isTransparent && isKnown && !keepsTransparency(format))
+        return tr("its format knows no transparency, as PNG does");
+    const QImage image = picture();
+    if (image.isNull())
+        return tr("it needs too much memory");
+    QImageWriter writer(file);
+    return writer.write(image) ? QString() : writer.errorString();
 }
 
 /// The files that cannot be read, and whether an overlay shows them.
@@ -168,6 +190,8 @@ QMap<QString, bool> HeadlessRun::unreadableImages()
 
 HeadlessRun::ExitCode HeadlessRun::reportUnreadableImages()
 {
+    const ProgressReport progress(tr("Still reading the images of \"%1\" after %2 s."),
+                                  m_line.scene);
     const QMap<QString, bool> files = unreadableImages();
     for (auto file = files.begin(); file != files.end(); ++file) {
         const QString shown = QDir::toNativeSeparators(file.key());

@@ -48,6 +48,7 @@ private:
     ExitCode runScript();
     ExitCode save();
     ExitCode exportPicture();
+    QString writePicture(const QString &file);
     ExitCode reportUnreadableImages();
     QMap<QString, bool> unreadableImages();
 

@@ -53,13 +53,22 @@ ViewGeometry OverlayLayer::geometryOf(const QWidget &widget)
     return {(QSizeF(widget.size()) * scale).toSize(), Dpi * scale};
 }
 
+QImage OverlayLayer::picture(const ViewGeometry &view, const Draw &draw)
+{
+    QImage image(view.size, QImage::Format_ARGB32_Premultiplied);
+    if (image.isNull())
+        return image;
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    draw(&painter, view.size, view.dpi);
+    return image;
+}
+
 void OverlayLayer::paintEvent(QPaintEvent *)
 {
-    // Drawn in the display's own pixels, so that an export of that size is the same picture.
-    const ViewGeometry view = geometryOf(*this);
-    QPainter painter(this);
-    painter.scale(1 / devicePixelRatioF(), 1 / devicePixelRatioF());
-    m_draw(&painter, view.size, view.dpi);
+    QImage image = picture(geometryOf(*this), m_draw);
+    image.setDevicePixelRatio(devicePixelRatioF());
+    QPainter(this).drawImage(0, 0, image);
 }
 
 } // namespace viewer

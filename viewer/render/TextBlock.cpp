@@ -4,7 +4,9 @@
 #include "viewer/render/TextBlock.h"
 
 #include <QFontMetricsF>
+#include <QGlyphRun>
 #include <QPainter>
+#include <QRawFont>
 
 #include <algorithm>
 
@@ -12,12 +14,15 @@ namespace viewer {
 
 namespace {
 
+constexpr int ReferenceSize = 200;
+constexpr double OutlinedSize = 60.0; // from a little above, glyphs are drawn as outlines
+
 /// The font that all layouts are made in. It is large, so that rounding to its pixels vanishes, and
 /// not hinted, so that glyphs scale.
 QFont referenceFont(const QString &family)
 {
     QFont font(family);
-    font.setPixelSize(200);
+    font.setPixelSize(ReferenceSize);
     font.setHintingPreference(QFont::PreferNoHinting);
     font.setStyleStrategy(QFont::StyleStrategy(QFont::PreferAntialias | QFont::NoSubpixelAntialias
                                                | QFont::ForceOutline));
@@ -43,6 +48,18 @@ QStringList linesOf(QString text)
     text.replace(QChar::LineSeparator, QLatin1Char('\n'));
     text.replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
     return text.split(QLatin1Char('\n'));
+}
+
+/// Outlines come from the face of a font file, which all texts of the process share, and which is
+/// left shifted by the part of a pixel where a text of the window had its last glyph. A new engine on
+/// the face takes the shift away.
+void straightenFaces(const QTextLayout &line)
+{
+    const QList<QGlyphRun> runs = line.glyphRuns();
+    for (const QGlyphRun &run : runs) {
+        QRawFont font = run.rawFont();
+        font.setPixelSize(font.pixelSize() / 2);
+    }
 }
 
 double widthOf(const QTextLayout &line)
@@ -78,6 +95,8 @@ void TextBlock::draw(QPainter *painter, const QRectF &box, const QColor &color,
     painter->setPen(color);
     double top = 0.0;
     for (const std::unique_ptr<QTextLayout> &line : m_lines) {
+        if (scale * ReferenceSize >= OutlinedSize)
+            straightenFaces(*line);
         // A fallback font may stand higher than the family; the baseline stays where it is.
         const double rise = line->lineCount() > 0 ? line->lineAt(0).ascent() - m_ascent : 0.0;
         line->draw(painter, QPointF(alignment * (width - widthOf(*line)), top - rise));

@@ -4,17 +4,14 @@
 #include "viewer/app/HeadlessRun.h"
 
 #include "tests/support/KxTest.h"
-#include "viewer/app/OverlayLayer.h"
-#include "viewer/app/ViewArea.h"
 
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <csignal>
 
-using viewer::HeadlessRun;
-
-/// Runs without window: the built program for what it returns and writes, the class for pixels.
+/// Runs without window: what the built program returns, writes and tells.
 class tst_HeadlessRun : public KxTest
 {
     Q_OBJECT
@@ -32,9 +29,10 @@ private Q_SLOTS:
     void shouldEndAnEndlessScriptWhenAsked();
     void shouldTellThatLongWorkGoesOn();
     void shouldLeaveTheBackdropOutWhenTransparent();
+    void shouldRefuseAFormatWithoutTransparency();
+    void shouldDocumentTheSameCodesEverywhere();
     void shouldReturnTheDocumentedCode_data();
     void shouldReturnTheDocumentedCode();
-    void shouldExportThePixelsOfTheView();
 
 private:
     QString path(const char *name) const { return m_folder.filePath(QLatin1String(name)); }
@@ -220,6 +218,37 @@ void tst_HeadlessRun::shouldLeaveTheBackdropOutWhenTransparent()
     QCOMPARE(QImage(path("clear.png")).pixelColor(5, 5).alpha(), 0);
 }
 
+void tst_HeadlessRun::shouldRefuseAFormatWithoutTransparency()
+{
+    writeScene("");
+    for (const char *name : {"clear.jpg", "clear.bmp", "clear.PPM"}) {
+        QCOMPARE(run({path("a.json"), "--export", path(name), "--transparent"}), 5);
+        QCOMPARE(m_errors, QString("The picture \"%1\" cannot be written: its format knows no "
+                                   "transparency, as PNG does\n")
+                               .arg(path(name)));
+        QVERIFY(!QFile::exists(path(name)));
+        QCOMPARE(run({path("a.json"), "--export", path(name)}), 0);
+    }
+}
+
+void tst_HeadlessRun::shouldDocumentTheSameCodesEverywhere()
+{
+    const auto codes = [](const QString &text, const char *line) {
+        QStringList found;
+        const QRegularExpression pattern(line, QRegularExpression::MultilineOption);
+        QRegularExpressionMatchIterator it = pattern.globalMatch(text);
+        while (it.hasNext())
+            found += it.next().captured(1);
+        return found;
+    };
+    QFile document(HEADLESS_DOCUMENT);
+    QVERIFY(document.open(QIODevice::ReadOnly));
+    const QStringList documented = codes(document.readAll(), "^\\| ([0-9]+) \\|");
+    QCOMPARE(documented, QStringList({"0", "2", "3", "4", "5", "6", "7", "8"}));
+    QCOMPARE(run({"--help"}), 0);
+    QCOMPARE(codes(m_output, "^  ([0-9]+)  "), documented);
+}
+
 void tst_HeadlessRun::shouldReturnTheDocumentedCode_data()
 {
     QTest::addColumn<QStringList>("arguments");
@@ -230,6 +259,9 @@ void tst_HeadlessRun::shouldReturnTheDocumentedCode_data()
     QTest::newRow("scene") << QStringList{nowhere} << 4;
     QTest::newRow("save") << QStringList{"--save", nowhere} << 5;
     QTest::newRow("export") << QStringList{"--export", nowhere + ".png"} << 5;
+    QTest::newRow("format") << QStringList{"--export", path("o.none")} << 5;
+    QTest::newRow("no transparency")
+        << QStringList{"--transparent", "--export", path("o.jpg")} << 5;
     QTest::newRow("module") << QStringList{"--plugin", nowhere} << 6;
     QTest::newRow("script") << QStringList{"--script", nowhere} << 7;
     QTest::newRow("record") << QStringList{"--record", path("r.js")} << 2;
@@ -240,24 +272,6 @@ void tst_HeadlessRun::shouldReturnTheDocumentedCode()
     QFETCH(QStringList, arguments);
     QTEST(run(arguments), "code");
     QVERIFY(!m_errors.isEmpty());
-}
-
-void tst_HeadlessRun::shouldExportThePixelsOfTheView()
-{
-    viewer::CommandLine line({"overlay-viewer", "--headless", "--size", "900x500"});
-    HeadlessRun headless(line);
-    viewer::OverlayService *overlays = headless.overlays();
-    overlays->setText({overlays->createOverlay(overlays->getRootNode())}, "Exactly\nas seen");
-    viewer::ImageCache images;
-    viewer::OverlayPainter painter(overlays->scene(), images);
-    viewer::ViewArea view(viewer::ViewArea::Background::Painted);
-    view.addLayer(new viewer::OverlayLayer(
-        overlays, [&painter](QPainter *device, const QSize &size, double dpi) {
-            painter.paint(*device, size, dpi);
-        }));
-    view.resize(line.headless.size);
-    const QImage seen = view.grab().toImage().convertToFormat(QImage::Format_RGB32);
-    QCOMPARE(headless.picture(), seen);
 }
 
 KX_TEST_MAIN(tst_HeadlessRun)
