@@ -21,6 +21,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 
 namespace viewer {
 
@@ -122,7 +123,12 @@ HeadlessRun::ExitCode HeadlessRun::runScript()
     };
     ScriptRun script(
         overlays(), [](const std::function<void()> &work) { work(); }, print);
-    const InterruptWatch watch([&script] { script.interrupt(); });
+    // JavaScript may be in the midst of something that cannot be cut short. Nothing is written yet.
+    const auto giveUp = [this] {
+        tell(ScriptRun::interruptedText(m_line.script));
+        std::_Exit(Interrupted);
+    };
+    const InterruptWatch watch([&script] { script.interrupt(); }, giveUp);
     const ScriptOutcome outcome = script.run(m_line.script);
     if (outcome.end == ScriptOutcome::End::Done)
         return Done;

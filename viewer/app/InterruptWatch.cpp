@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
+#include <poll.h>
 #include <unistd.h>
 
 namespace viewer {
@@ -14,6 +15,7 @@ namespace {
 
 constexpr char Signalled = 's';
 constexpr char Over = 'o';
+constexpr int Patience = 2000;
 constexpr int Signals[] = {SIGINT, SIGTERM};
 
 // A handler may do next to nothing, so it wakes a thread through a pipe.
@@ -26,6 +28,15 @@ void wake(char what)
     }
 }
 
+/// Waits for what comes through the pipe.
+char readFrom(int pipe)
+{
+    char what = Over;
+    while (::read(pipe, &what, 1) < 0 && errno == EINTR) {
+    }
+    return what;
+}
+
 extern "C" void handleSignal(int)
 {
     const int error = errno;
@@ -35,7 +46,9 @@ extern "C" void handleSignal(int)
 
 } // namespace
 
-InterruptWatch::InterruptWatch(std::function<void()> interrupt) : m_interrupt(std::move(interrupt))
+InterruptWatch::InterruptWatch(Call interrupt, Call giveUp)
+    : m_interrupt(std::move(interrupt))
+    , m_giveUp(std::move(giveUp))
 {
     if (::pipe2(s_pipe, O_CLOEXEC) != 0)
         return; // signals end the process then
@@ -61,13 +74,14 @@ InterruptWatch::~InterruptWatch()
 
 void InterruptWatch::watch(int pipe) const
 {
-    char what = 0;
-    while (what != Over) {
-        if (::read(pipe, &what, 1) < 0 && errno != EINTR)
-            return;
-        if (what == Signalled)
-            m_interrupt();
-    }
+    if (readFrom(pipe) == Over)
+        return;
+    m_interrupt();
+    pollfd next = {pipe, POLLIN, 0};
+    if (::poll(&next, 1, Patience) == 0)
+        m_giveUp();
+    // The next signal is not handled any more, so what comes is the end.
+    readFrom(pipe);
 }
 
 } // namespace viewer

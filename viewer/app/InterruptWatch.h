@@ -10,20 +10,25 @@
 
 namespace viewer {
 
-/// Turns the first SIGINT or SIGTERM that the process gets into a call; the next one ends the process
-/// as ever, for what does not heed the call. One at a time, in runs without window.
+/// Turns the first SIGINT or SIGTERM that the process gets into a call, and into another one where
+/// the work goes on all the same; the next signal ends the process as ever. One at a time, in runs
+/// without window.
 class InterruptWatch
 {
 public:
-    /// `interrupt` is called on a thread of the watch's own.
-    explicit InterruptWatch(std::function<void()> interrupt);
+    using Call = std::function<void()>;
+
+    /// Both are called on a thread of the watch's own: `interrupt` at once, `giveUp` when the watch is
+    /// still there two seconds later.
+    InterruptWatch(Call interrupt, Call giveUp);
     ~InterruptWatch();
     Q_DISABLE_COPY(InterruptWatch)
 
 private:
     void watch(int pipe) const;
 
-    const std::function<void()> m_interrupt;
+    const Call m_interrupt;
+    const Call m_giveUp;
     std::thread m_thread;
 };
 

@@ -81,6 +81,11 @@ void ScriptRun::interrupt()
         m_engine->setInterrupted(true);
 }
 
+QString ScriptRun::interruptedText(const QString &file)
+{
+    return tr("The script \"%1\" was interrupted.").arg(QDir::toNativeSeparators(file));
+}
+
 ScriptOutcome ScriptRun::run(const QString &file)
 {
     const TextReading source = ScriptSource::read(file);
@@ -120,8 +125,7 @@ ScriptOutcome ScriptRun::outcomeOf(const QJSEngine &engine, const QString &file,
 {
     const QString shown = QDir::toNativeSeparators(file);
     if (engine.isInterrupted())
-        return {ScriptOutcome::End::Interrupted,
-                tr("The script \"%1\" was interrupted.").arg(shown)};
+        return {ScriptOutcome::End::Interrupted, interruptedText(file)};
     const int line = lineOf(thrown);
     const QString place = line > 0 ? QStringLiteral("%1:%2").arg(shown).arg(line) : shown;
     return {ScriptOutcome::End::Failed, QStringLiteral("%1: %2").arg(place, thrown.toString())};

@@ -41,6 +41,9 @@ public:
     /// May be called on any thread.
     void interrupt();
 
+    /// What is told of a script that was interrupted.
+    static QString interruptedText(const QString &file);
+
 private:
     class Interruptible;
 
