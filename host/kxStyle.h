@@ -59,9 +59,13 @@ public:
     int pixelMetric(PixelMetric metric, const QStyleOption *option,
                     const QWidget *widget) const override;
 
-    /// The buttons of a panel's title bar come from the host's icon set.
+    /// The buttons of a panel's title bar and the signs of message boxes come from the host's icon set.
     QIcon standardIcon(StandardPixmap icon, const QStyleOption *option = nullptr,
                        const QWidget *widget = nullptr) const override;
+
+    /// A selected row says that it is selected; its icon stays as bright as it was.
+    QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap &pixmap,
+                                const QStyleOption *option) const override;
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                   QStyleHintReturn *returnData) const override;
 

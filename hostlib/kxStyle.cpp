@@ -146,9 +146,24 @@ QIcon kxStyle::standardIcon(StandardPixmap icon, const QStyleOption *option,
         return kxIconManager::getIcon("Clear", std::string());
     case SP_TitleBarNormalButton:
         return kxIconManager::getIcon("Float", std::string());
+    case SP_MessageBoxInformation:
+        return kxIconManager::getIcon("MessageInformation", std::string());
+    case SP_MessageBoxWarning:
+        return kxIconManager::getIcon("MessageWarning", std::string());
+    case SP_MessageBoxCritical:
+        return kxIconManager::getIcon("MessageError", std::string());
+    case SP_MessageBoxQuestion:
+        return kxIconManager::getIcon("MessageQuestion", std::string());
     default:
         return QProxyStyle::standardIcon(icon, option, widget);
     }
+}
+
+QPixmap kxStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap &pixmap,
+                                     const QStyleOption *option) const
+{
+    return mode == QIcon::Selected ? pixmap
+                                   : QProxyStyle::generatedIconPixmap(mode, pixmap, option);
 }
 
 int kxStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,

@@ -33,6 +33,10 @@ const char *const names[] = {
     "Home",
     "ResetView",
     "Application",
+    "MessageError",
+    "MessageInformation",
+    "MessageQuestion",
+    "MessageWarning",
 };
 
 kxIconOptions with(unsigned int option)

@@ -13,22 +13,27 @@ class tst_kxStyleIcons : public KxTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void shouldTakeThePanelButtonsFromTheIconSet_data();
-    void shouldTakeThePanelButtonsFromTheIconSet();
+    void shouldTakeThemFromTheIconSet_data();
+    void shouldTakeThemFromTheIconSet();
     void shouldLeaveOtherIconsAsTheyAre();
+    void shouldNotTintTheIconsOfSelectedRows();
     void shouldDrawArrowsAsLargeAsTheirPlace();
 };
 
-void tst_kxStyleIcons::shouldTakeThePanelButtonsFromTheIconSet_data()
+void tst_kxStyleIcons::shouldTakeThemFromTheIconSet_data()
 {
     QTest::addColumn<int>("button");
     QTest::addColumn<QString>("name");
     QTest::newRow("close window") << int(QStyle::SP_TitleBarCloseButton) << "Clear";
     QTest::newRow("close panel") << int(QStyle::SP_DockWidgetCloseButton) << "Clear";
     QTest::newRow("float") << int(QStyle::SP_TitleBarNormalButton) << "Float";
+    QTest::newRow("information") << int(QStyle::SP_MessageBoxInformation) << "MessageInformation";
+    QTest::newRow("warning") << int(QStyle::SP_MessageBoxWarning) << "MessageWarning";
+    QTest::newRow("error") << int(QStyle::SP_MessageBoxCritical) << "MessageError";
+    QTest::newRow("question") << int(QStyle::SP_MessageBoxQuestion) << "MessageQuestion";
 }
 
-void tst_kxStyleIcons::shouldTakeThePanelButtonsFromTheIconSet()
+void tst_kxStyleIcons::shouldTakeThemFromTheIconSet()
 {
     QFETCH(int, button);
     QFETCH(QString, name);
@@ -42,6 +47,16 @@ void tst_kxStyleIcons::shouldTakeThePanelButtonsFromTheIconSet()
 void tst_kxStyleIcons::shouldLeaveOtherIconsAsTheyAre()
 {
     QVERIFY(!kxStyle().standardIcon(QStyle::SP_DirIcon).isNull());
+}
+
+void tst_kxStyleIcons::shouldNotTintTheIconsOfSelectedRows()
+{
+    QApplication::setStyle(new kxStyle);
+    QPixmap pixmap(16, 16);
+    pixmap.fill(Qt::white);
+    const QIcon icon(pixmap);
+    QCOMPARE(icon.pixmap(16, QIcon::Selected).toImage().pixelColor(8, 8), QColor(Qt::white));
+    QVERIFY(icon.pixmap(16, QIcon::Disabled).toImage().pixelColor(8, 8) != QColor(Qt::white));
 }
 
 /// Columns of the image that differ from their neighbour at the left.

@@ -29,7 +29,7 @@ FileActions::FileActions(SceneDocument *document, QMenu *menu)
 {
     QAction *before = menu->actions().value(0);
     const auto add = [&](const char *name, const char *icon, const QString &text,
-                         QKeySequence::StandardKey key, auto slot) {
+                         const QKeySequence &key, auto slot) {
         auto *action = new QAction(kxIconManager::getIcon(icon, ""), text, this);
         action->setObjectName(QLatin1String(name));
         action->setShortcut(key);
@@ -43,7 +43,8 @@ FileActions::FileActions(SceneDocument *document, QMenu *menu)
     menu->insertMenu(before, m_recent);
     menu->insertSeparator(before);
     add("saveScene", "Save", tr("&Save"), QKeySequence::Save, [document] { document->save(); });
-    add("saveSceneAs", "Save", tr("Save &As…"), QKeySequence::SaveAs,
+    // Not every desktop has a standard key for it.
+    add("saveSceneAs", "Save", tr("Save &As…"), Qt::CTRL + Qt::SHIFT + Qt::Key_S,
         [document] { document->saveAs(); });
     menu->insertSeparator(before);
     connect(menu, &QMenu::aboutToShow, this, &FileActions::fillRecent);

@@ -21,6 +21,12 @@ QString plainText(const QAction &action)
     return action.iconText().remove(QStringLiteral("…")).remove(key);
 }
 
+/// The toolkit knows more function keys than keyboards have.
+bool isUnknown(int key)
+{
+    return key > Qt::Key_F12 && key <= Qt::Key_F35;
+}
+
 bool actsIn(KeyScope scope, const QAction &action)
 {
     return scope == KeyScope::Anywhere || action.shortcutContext() == Qt::WindowShortcut
@@ -37,11 +43,10 @@ void addKeys(const QList<QAction *> &actions, const QString &category, KeyScope 
             continue;
         const QList<QKeySequence> sequences = action->shortcuts();
         for (const QKeySequence &sequence : sequences) {
+            const int key = sequence[0] & ~Modifiers;
             // A key pressed after another one is no clash with a single one.
-            if (sequence.count() == 1) {
-                keys->append({category, sequence[0] & ~Modifiers, sequence[0] & Modifiers,
-                              plainText(*action)});
-            }
+            if (sequence.count() == 1 && !isUnknown(key))
+                keys->append({category, key, sequence[0] & Modifiers, plainText(*action)});
         }
     }
 }

@@ -82,10 +82,12 @@ QVariant UserGuide::loadResource(int type, const QUrl &name)
 {
     if (type != ImageResource)
         return QTextDocument::loadResource(type, name);
-    const QImage picture(baseUrl().resolved(name).toLocalFile());
-    return picture.width() > WidestPicture
-               ? picture.scaledToWidth(WidestPicture, Qt::SmoothTransformation)
-               : picture;
+    QImage picture(baseUrl().resolved(name).toLocalFile());
+    if (picture.width() > WidestPicture)
+        picture = picture.scaledToWidth(WidestPicture, Qt::SmoothTransformation);
+    // The layout asks for each picture time and again.
+    addResource(type, name, picture);
+    return picture;
 }
 
 /// Markdown says nothing of room: paragraphs would stand line on line.

@@ -12,22 +12,6 @@
 
 namespace viewer {
 
-namespace {
-
-/// The boxes of some of the drawn overlays.
-QVector<QRectF> boxesOf(const QRPC::NodeList &nodes, const std::vector<DrawnOverlay> &drawn)
-{
-    const QSet<QRPC::NodeId> wanted(nodes.begin(), nodes.end());
-    QVector<QRectF> boxes;
-    for (const DrawnOverlay &overlay : drawn) {
-        if (wanted.contains(overlay.node))
-            boxes.append(overlay.box);
-    }
-    return boxes;
-}
-
-} // namespace
-
 ViewEditing::ViewEditing(OverlayService *service, OverlayPainter *painter, ViewArea *area)
     : QObject(area)
     , m_service(service)
@@ -133,7 +117,7 @@ EditFeedback ViewEditing::feedback() const
     if (feedback.band.isEmpty() || m_gesture.bandAdds())
         feedback.outlines = outlinesOf(m_service->scene(), m_selection.nodes(), drawn);
     if (!feedback.band.isEmpty())
-        feedback.bandBoxes = boxesOf(m_gesture.bandNodes(), drawn);
+        feedback.bandBoxes = outlinesOf(m_service->scene(), m_gesture.bandNodes(), drawn).overlays;
     feedback.guides = m_gesture.guides();
     if (m_gesture.movedNode() != 0)
         addPlace(m_gesture.movedNode(), &feedback);

@@ -46,7 +46,7 @@ Outlines outlinesOf(const Scene &scene, const NodeList &selection,
 {
     QHash<NodeId, QRectF> boxes; // of groups too, once all that lies in them has been passed
     for (const DrawnOverlay &overlay : drawn)
-        boxes.insert(overlay.node, overlay.box);
+        boxes.insert(overlay.node, overlay.cover);
     const QSet<NodeId> selected(selection.begin(), selection.end());
     const std::vector<const Node *> reached = reach(scene, selection);
     Outlines outlines;

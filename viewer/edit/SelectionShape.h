@@ -13,7 +13,8 @@ namespace viewer {
 /// group or switch for all in it, shown or not, so that a group stays as it is when it is moved.
 QRPC::NodeList overlaysOf(const Scene &scene, const QRPC::NodeList &nodes);
 
-/// Boxes to be outlined, in pixels of the view. What is not drawn has none.
+/// Boxes to be outlined, around all that an overlay covers, in pixels of the view. What is not drawn has
+/// none.
 struct Outlines
 {
     QVector<QRectF> overlays; ///< of the selected overlays

@@ -72,6 +72,7 @@ private Q_SLOTS:
     void shouldBeUnmodifiedWhereItWasSaved();
     void shouldTakeImagesFromTheFoldersOfItsFiles();
     void shouldListRecentFiles();
+    void shouldHaveAKeyForEachCommandOnEveryDesktop();
 
 private:
     QString file(const QString &name) const { return m_folder->filePath(name); }
@@ -361,6 +362,16 @@ void tst_SceneDocument::shouldListRecentFiles()
     recent->actions().constLast()->trigger();
     QVERIFY(m_document->recentFiles().isEmpty());
     QVERIFY(!recent->isEnabled());
+}
+
+void tst_SceneDocument::shouldHaveAKeyForEachCommandOnEveryDesktop()
+{
+    QMenu menu;
+    const FileActions actions(m_document.get(), &menu);
+    QStringList keys;
+    for (const char *name : {"newScene", "openScene", "saveScene", "saveSceneAs"})
+        keys.append(actions.findChild<QAction *>(name)->shortcut().toString());
+    QCOMPARE(keys, (QStringList{"Ctrl+N", "Ctrl+O", "Ctrl+S", "Ctrl+Shift+S"}));
 }
 
 KX_TEST_MAIN(tst_SceneDocument)

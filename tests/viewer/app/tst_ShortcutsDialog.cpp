@@ -57,6 +57,7 @@ private Q_SLOTS:
     void shouldFindByCommandKeyOrCategory_data();
     void shouldFindByCommandKeyOrCategory();
     void shouldReadTheKeysOfMenus();
+    void shouldLeaveOutKeysThatNoKeyboardHas();
     void shouldNameACommandWithoutTheKeyBehindItsName();
     void shouldNameCommandsAlikeWhateverTheMenuSays();
     void shouldLeaveOutKeysOfOneWidgetWhereTheWholeWindowIsMeant();
@@ -166,6 +167,15 @@ void tst_ShortcutsDialog::shouldReadTheKeysOfMenus()
         read.append(key.category + ' ' + key.description + ' '
                     + kxShortcut::convertKey(key.key, key.modifiers, true));
     QCOMPARE(read, (QStringList{"Viewer Open Ctrl+O", "Viewer Deep F5", "Viewer Deep Alt+R"}));
+}
+
+void tst_ShortcutsDialog::shouldLeaveOutKeysThatNoKeyboardHas()
+{
+    QMenuBar bar;
+    bar.addAction("Undo")->setShortcuts({QKeySequence("F12"), QKeySequence("F14")});
+    const QVector<kxShortcut::Entry> keys = menuKeys(bar, "Viewer");
+    QCOMPARE(keys.size(), 1);
+    QCOMPARE(keys.at(0).key, int(Qt::Key_F12));
 }
 
 /// The menu says what would be undone, and marks a key with an ampersand.

@@ -35,6 +35,7 @@ private Q_SLOTS:
     void shouldKeepTheTextFreeOfIdentifiers();
     void shouldKeepParagraphsApart();
     void shouldFitPicturesToThePage();
+    void shouldReadEachPictureOnce();
     void shouldGoToAPage_data();
     void shouldGoToAPage();
     void shouldFollowALinkToAHeading();
@@ -95,6 +96,21 @@ void tst_UserGuide::shouldFitPicturesToThePage()
     };
     QCOMPARE(size("wide.png"), QSize(640, 160));
     QCOMPARE(size("narrow.png"), QSize(100, 25));
+}
+
+void tst_UserGuide::shouldReadEachPictureOnce()
+{
+    const QTemporaryDir folder;
+    QImage picture(10, 10, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    QVERIFY(picture.save(folder.filePath("a.png")));
+    const UserGuide guide("![a](a.png)\n", folder.path());
+    const auto read = [&guide] {
+        return guide.resource(QTextDocument::ImageResource, QUrl("a.png")).value<QImage>();
+    };
+    QCOMPARE(read().size(), QSize(10, 10));
+    QVERIFY(QFile::remove(folder.filePath("a.png")));
+    QCOMPARE(read().size(), QSize(10, 10));
 }
 
 /// Ten pages, each longer than the window.

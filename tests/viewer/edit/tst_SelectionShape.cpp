@@ -34,7 +34,7 @@ void tst_SelectionShape::init()
     m_drawn.clear();
     for (const char *name : {"a", "b", "c", "e"}) {
         const double at = 10 * (*name - 'a');
-        m_drawn.push_back({id(name), {at, at, 10, 10}, {at, at, 10, 10}});
+        m_drawn.push_back({id(name), {at + 3, at + 3, 4, 4}, {at, at, 10, 10}});
     }
 }
 
