@@ -21,4 +21,8 @@ using Run = std::function<void(benchmark::State &state)>;
 void add(const std::string &operation, const std::string &tree, int size, const Run &module,
          const Run &floor, int iterations = 0);
 
+/// Adds all that a program measures. Defined by each program, and called by the main() that comes
+/// with the library once there is an application.
+void addAll();
+
 } // namespace sides

@@ -5,15 +5,14 @@
 // same rows and selection in a plain tree view. Prints a table of docs/PERFORMANCE.md.
 
 #include "bench/FloorTree.h"
-#include "bench/RatioReporter.h"
 #include "bench/Sides.h"
 #include "bench/TreeCase.h"
 #include "host/kxKernelServiceFactory.h"
 #include "kit/HostFixture.h"
+#include "kit/widgets.h"
 #include "overlayeditor/kxOverlayEditor.h"
 #include "overlayeditor/kxOverlayEditorGUIW.h"
 
-#include <QApplication>
 #include <QRegExp>
 
 #include <functional>
@@ -32,15 +31,6 @@ struct Start
     bool expanded = false;
     Picked picked = Picked::None;
 };
-
-/// What was left to the event loop must not be counted with the command.
-void settle()
-{
-    for (int i = 0; i < 10; ++i) {
-        QCoreApplication::sendPostedEvents();
-        QCoreApplication::processEvents();
-    }
-}
 
 /// Selects every row or every second one, among siblings that are shown.
 void pick(QTreeView *view, const Start &start)
@@ -208,7 +198,7 @@ sides::Run measure(const Start &start, int size, const std::function<void(Side *
     return [=](benchmark::State &state) {
         for ([[maybe_unused]] auto iteration : state) {
             Side side(start, size);
-            settle();
+            widgets::settle(); // what was left to the event loop is not the command's
             state.SetIterationTime(sides::secondsOf([&] { work(&side); }));
         }
     };
@@ -216,17 +206,12 @@ sides::Run measure(const Start &start, int size, const std::function<void(Side *
 
 } // namespace
 
-int main(int argc, char **argv)
+void sides::addAll()
 {
-    QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
     for (const Command &command : commands()) {
         for (const int size : {1000, 10000})
             sides::add(command.name, command.state, size,
                        measure<Editor>(command.start, size, command.module),
                        measure<Plain>(command.start, size, command.floor), 1);
     }
-    RatioReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    return 0;
 }

@@ -4,15 +4,12 @@
 // Opening and saving a scene, beside what nobody can leave out: the JSON library alone parsing the
 // same text (writing the same values), and for the opening the filling of the tree.
 
-#include "bench/RatioReporter.h"
 #include "bench/Sides.h"
 #include "bench/TreeCase.h"
 #include "overlayeditor/model/kxOverlayQtModel.h"
 #include "viewer/scene/JsonRecord.h"
 #include "viewer/scene/SceneReader.h"
 #include "viewer/scene/SceneWriter.h"
-
-#include <QApplication>
 
 namespace {
 
@@ -90,10 +87,8 @@ sides::Run measureDump(Shape shape, int size)
 
 } // namespace
 
-int main(int argc, char **argv)
+void sides::addAll()
 {
-    const QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
     for (const Shape shape : {Shape::Flat, Shape::Groups, Shape::Deep}) {
         for (const int size : {1000, 10000}) {
             sides::add("open", nameOf(shape), size, measure(shape, size, open),
@@ -102,7 +97,4 @@ int main(int argc, char **argv)
                        measureDump(shape, size));
         }
     }
-    RatioReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    return 0;
 }

@@ -4,15 +4,12 @@
 // How long the property panel needs to show a whole selection anew, beside the questions that it has
 // to ask the service for it, asked bare in the same run.
 
-#include "bench/RatioReporter.h"
 #include "bench/Sides.h"
 #include "bench/TreeCase.h"
 #include "host/kxKernelServiceFactory.h"
 #include "kit/HostFixture.h"
 #include "overlayeditor/kxOverlayEditor.h"
 #include "overlayeditor/kxOverlayEditorGUIW.h"
-
-#include <QApplication>
 
 namespace {
 
@@ -77,17 +74,12 @@ void runFloor(benchmark::State &state, int size)
 
 } // namespace
 
-int main(int argc, char **argv)
+void sides::addAll()
 {
-    QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
     for (const int size : {1000, 10000}) {
         sides::add(
             "full refresh", "equal texts", size,
             [size](benchmark::State &state) { runModule(state, size); },
             [size](benchmark::State &state) { runFloor(state, size); });
     }
-    RatioReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    return 0;
 }

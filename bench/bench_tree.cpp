@@ -5,12 +5,11 @@
 // rows in the same run. Prints the table of docs/PERFORMANCE.md.
 
 #include "bench/FloorTree.h"
-#include "bench/RatioReporter.h"
 #include "bench/Sides.h"
 #include "bench/TreeCase.h"
 #include "overlayeditor/model/kxOverlayQtModel.h"
 
-#include <QApplication>
+#include <QCoreApplication>
 
 #include <functional>
 #include <string>
@@ -102,10 +101,8 @@ void addCase(const Operation &operation, Shape shape, int size, bool shown)
 
 } // namespace
 
-int main(int argc, char **argv)
+void sides::addAll()
 {
-    QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
     for (const Operation &operation : operations()) {
         for (const Shape shape : {Shape::Flat, Shape::Groups, Shape::Deep}) {
             for (const bool shown : {false, true}) {
@@ -114,7 +111,4 @@ int main(int argc, char **argv)
             }
         }
     }
-    RatioReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    return 0;
 }

@@ -4,12 +4,10 @@
 // How long a frame of overlays takes, beside the same layouts and pictures, made beforehand and put
 // on the same places by a bare painter in the same run. Both sides must give the same pixels.
 
-#include "bench/RatioReporter.h"
 #include "bench/Sides.h"
 #include "viewer/render/OverlayPainter.h"
 #include "viewer/scene/OverlayService.h"
 
-#include <QApplication>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QTemporaryDir>
@@ -266,15 +264,10 @@ void add(const char *operation, const char *overlays, Kind kind, bool changesOne
 
 } // namespace
 
-int main(int argc, char **argv)
+void sides::addAll()
 {
-    const QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
     add("frame", "texts", Kind::Texts);
     add("frame", "texts on boxes", Kind::BoxedTexts);
     add("frame", "pictures", Kind::Pictures);
     add("frame after one new text", "texts", Kind::Texts, true);
-    RatioReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    return 0;
 }

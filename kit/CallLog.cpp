@@ -43,6 +43,22 @@ QStringList CallLog::commands() const
     return wanted;
 }
 
+QStringList CallLog::callsOf(const std::function<void()> &action)
+{
+    clear();
+    action();
+    return take();
+}
+
+QStringList CallLog::commandsOf(const std::function<void()> &action)
+{
+    clear();
+    action();
+    QStringList wanted = commands();
+    clear();
+    return wanted;
+}
+
 int CallLog::total() const
 {
     return std::accumulate(m_counts.cbegin(), m_counts.cend(), 0);

@@ -6,6 +6,8 @@
 #include <QHash>
 #include <QStringList>
 
+#include <functional>
+
 /// What the services of a test were asked, in order, as short lines: the operation, then its
 /// arguments ("getParent 5", "setName [5,6] \"x\""). Owned by the test; GUI thread only.
 class CallLog
@@ -25,6 +27,10 @@ public:
 
     /// The lines of commands and writes alone, in order: those that ask nothing.
     QStringList commands() const;
+
+    /// The lines, or those of commands and writes alone, that `action` adds to the emptied log.
+    QStringList callsOf(const std::function<void()> &action);
+    QStringList commandsOf(const std::function<void()> &action);
 
     /// How often an operation was called; counted while lines are switched off too.
     int count(const QString &operation) const { return m_counts.value(operation); }

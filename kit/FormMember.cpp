@@ -56,6 +56,17 @@ const QVector<FormMember> &FormMember::all()
     return all;
 }
 
+const QVector<const char *> &FormMember::inputs()
+{
+    static const QVector<const char *> inputs{
+        "_image_radio_button",  "_text_radio_button",     "_text_edit",
+        "_font_combo_box",      "_color_slider",          "_background_slider",
+        "_transparency_slider", "_absolute_radio_button", "_relative_radio_button",
+        "_size_slider",         "_position_combo_box",    "_offset_x_spin_box",
+        "_offset_y_spin_box"};
+    return inputs;
+}
+
 const QVector<QPair<const char *, const char *>> &FormMember::texts()
 {
     static const QVector<QPair<const char *, const char *>> all{

@@ -20,6 +20,9 @@ struct FormMember
     /// All of them, in the order of their declaration.
     static const QVector<FormMember> &all();
 
+    /// The controls that are enabled and disabled with the selection, by name and in that order.
+    static const QVector<const char *> &inputs();
+
     /// The texts of labels and buttons, by name.
     static const QVector<QPair<const char *, const char *>> &texts();
 };

@@ -3,7 +3,10 @@
 
 #pragma once
 
+#include <QAbstractItemView>
+#include <QCoreApplication>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 #include <QWidget>
 
@@ -25,6 +28,25 @@ inline bool isMarked(const QWidget &control)
 {
     const QVariant marking = control.property("multiselect");
     return marking.isValid() && marking == QVariant(true);
+}
+
+/// Does what was left to the event loop, and what that leaves to it in its turn.
+inline void settle()
+{
+    for (int i = 0; i < 10; ++i) {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+    }
+}
+
+/// What the selected rows of a view show, in the order in which they were selected.
+inline QStringList selectedNames(const QAbstractItemView &view)
+{
+    QStringList names;
+    const QModelIndexList indexes = view.selectionModel()->selectedIndexes();
+    for (const QModelIndex &index : indexes)
+        names.append(index.data().toString());
+    return names;
 }
 
 } // namespace widgets

@@ -154,22 +154,6 @@ ModuleBench::Nodes ModuleBench::selected()
     return nodes;
 }
 
-QStringList ModuleBench::commandsOf(const std::function<void()> &action)
-{
-    log().clear();
-    action();
-    QStringList commands = log().commands();
-    log().clear();
-    return commands;
-}
-
-QStringList ModuleBench::callsOf(const std::function<void()> &action)
-{
-    log().clear();
-    action();
-    return log().take();
-}
-
 void ModuleBench::call(const char *slot)
 {
     expect(slot, QMetaObject::invokeMethod(&editor(), slot, Qt::DirectConnection));

@@ -75,8 +75,8 @@ public:
     Nodes selected();
 
     /// The commands and writes that `action` sends, and all calls that it makes.
-    QStringList commandsOf(const std::function<void()> &action);
-    QStringList callsOf(const std::function<void()> &action);
+    QStringList commandsOf(const std::function<void()> &action) { return log().commandsOf(action); }
+    QStringList callsOf(const std::function<void()> &action) { return log().callsOf(action); }
 
     /// Calls a slot of the editor that has no arguments.
     void call(const char *slot);

@@ -5,6 +5,7 @@
 #include "host/kxIconManager.h"
 #include "host/kxShortcut.h"
 #include "kit/CallCounter.h"
+#include "kit/FormMember.h"
 #include "kit/editorSlots.h"
 
 #include <QGridLayout>
@@ -16,13 +17,6 @@
 namespace conformance {
 
 namespace {
-
-const char *const s_inputs[] = {
-    "_image_radio_button",  "_text_radio_button",     "_text_edit",
-    "_font_combo_box",      "_color_slider",          "_background_slider",
-    "_transparency_slider", "_absolute_radio_button", "_relative_radio_button",
-    "_size_slider",         "_position_combo_box",    "_offset_x_spin_box",
-    "_offset_y_spin_box"};
 
 QString keyLine(const QString &text, int key, int modifiers)
 {
@@ -278,7 +272,7 @@ ModuleChecks entryChecks() // NOLINT(readability-function-size)
          "Nothing is selected at the start: name and inputs are disabled.",
          [](ModuleBench &bench) {
              bench.callEntry();
-             for (const char *name : s_inputs)
+             for (const char *name : FormMember::inputs())
                  expect(name, !bench.form<QWidget>(name).isEnabled());
              expect("the name is disabled", !bench.form<QWidget>("_overlay_name").isEnabled());
              expect("the tree is enabled", bench.tree().isEnabled());

@@ -3,39 +3,16 @@
 
 #include "conformance/module/moduleChecks.h"
 #include "host/kxShortcut.h"
+#include "kit/MarkingTranslator.h"
 
 #include <QAction>
 #include <QComboBox>
 #include <QMenu>
 #include <QToolBar>
-#include <QTranslator>
 
 namespace conformance {
 
 namespace {
-
-/// Answers for one context only and marks what it translated. Installed while it lives.
-class MarkingTranslator : public QTranslator
-{
-public:
-    explicit MarkingTranslator(const char *context) : m_context(context)
-    {
-        QCoreApplication::installTranslator(this);
-    }
-    ~MarkingTranslator() override { QCoreApplication::removeTranslator(this); }
-    Q_DISABLE_COPY(MarkingTranslator)
-
-    bool isEmpty() const override { return false; }
-
-    QString translate(const char *context, const char *text, const char *, int) const override
-    {
-        return qstrcmp(context, m_context) == 0 ? QLatin1Char('*') + QString::fromUtf8(text)
-                                                : QString();
-    }
-
-private:
-    const char *m_context;
-};
 
 void expectMarked(const char *what, const QString &text)
 {

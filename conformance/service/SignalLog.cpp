@@ -12,24 +12,7 @@ SignalLog::SignalLog(kxOverlayService *service, const NamesOf &namesOf)
     , m_namesOf(namesOf)
 {
     using S = kxOverlayService;
-    const std::pair<const char *, Signal> lists[] = {
-        {"nodesCreated", &S::nodesCreated},
-        {"nodesAdded", &S::nodesAdded},
-        {"nodesRemoved", &S::nodesRemoved},
-        {"overlayTypeChanged", &S::overlayTypeChanged},
-        {"nameChanged", &S::nameChanged},
-        {"textChanged", &S::textChanged},
-        {"fontChanged", &S::fontChanged},
-        {"fontColorChanged", &S::fontColorChanged},
-        {"backgroundColorChanged", &S::backgroundColorChanged},
-        {"backgroundTransparencyChanged", &S::backgroundTransparencyChanged},
-        {"imageChanged", &S::imageChanged},
-        {"sizeTypeChanged", &S::sizeTypeChanged},
-        {"sizeChanged", &S::sizeChanged},
-        {"positionChanged", &S::positionChanged},
-        {"offsetChanged", &S::offsetChanged},
-        {"enabledStateChanged", &S::enabledStateChanged},
-    };
+    const auto lists = nodeSignals();
     for (const auto &[name, signal] : lists)
         record(name, signal);
     connect(service, &S::modelReset, this, [this] { add(QStringLiteral("modelReset")); });
@@ -42,7 +25,7 @@ QStringList SignalLog::take()
     return std::exchange(m_lines, QStringList());
 }
 
-void SignalLog::record(const char *name, Signal signal)
+void SignalLog::record(const char *name, NodesSignal signal)
 {
     connect(m_service, signal, this, [this, name](const QRPC::NodeList &nodes) {
         checkPresence(name, nodes);

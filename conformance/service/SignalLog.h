@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "host/kxOverlayService.h"
+#include "kit/nodeSignals.h"
 
 #include <QStringList>
 
@@ -32,9 +32,7 @@ public:
     const QStringList &faults() const { return m_faults; }
 
 private:
-    using Signal = void (kxOverlayService::*)(const QRPC::NodeList &);
-
-    void record(const char *name, Signal signal);
+    void record(const char *name, NodesSignal signal);
     void add(const QString &line);
     void checkMove(const QRPC::NodeList &nodes, const QRPC::NodeList &parents,
                    const QRPC::NodeList &afters);

@@ -59,25 +59,6 @@ const char *const s_commands[] = {
     "setOffsetY",
 };
 
-const std::pair<const char *, void (S::*)(const QRPC::NodeList &)> s_signals[] = {
-    {"nodesCreated", &S::nodesCreated},
-    {"nodesAdded", &S::nodesAdded},
-    {"nodesRemoved", &S::nodesRemoved},
-    {"overlayTypeChanged", &S::overlayTypeChanged},
-    {"nameChanged", &S::nameChanged},
-    {"textChanged", &S::textChanged},
-    {"fontChanged", &S::fontChanged},
-    {"fontColorChanged", &S::fontColorChanged},
-    {"backgroundColorChanged", &S::backgroundColorChanged},
-    {"backgroundTransparencyChanged", &S::backgroundTransparencyChanged},
-    {"imageChanged", &S::imageChanged},
-    {"sizeTypeChanged", &S::sizeTypeChanged},
-    {"sizeChanged", &S::sizeChanged},
-    {"positionChanged", &S::positionChanged},
-    {"offsetChanged", &S::offsetChanged},
-    {"enabledStateChanged", &S::enabledStateChanged},
-};
-
 QRPC::NodeList reversed(QRPC::NodeList nodes)
 {
     std::reverse(nodes.begin(), nodes.end());
@@ -88,7 +69,8 @@ QRPC::NodeList reversed(QRPC::NodeList nodes)
 
 BrokenService::BrokenService(const QByteArray &fault) : m_fault(fault), m_service(&m_log)
 {
-    for (const auto &[name, signal] : s_signals)
+    const auto signalsOfNodes = nodeSignals();
+    for (const auto &[name, signal] : signalsOfNodes)
         relay(name, signal);
     relayMoves();
     connect(&m_service, &S::modelReset, this, &S::modelReset);
@@ -105,8 +87,9 @@ QList<QByteArray> BrokenService::faults()
         for (const char *kind : {"ignore:", "each:", "unknown:"})
             all.append(QByteArray(kind) + command);
     }
+    const auto signalsOfNodes = nodeSignals();
     for (const char *kind : {"drop:", "double:", "reverse:", "late:"}) {
-        for (const auto &[name, signal] : s_signals)
+        for (const auto &[name, signal] : signalsOfNodes)
             all.append(QByteArray(kind) + name);
         all.append(QByteArray(kind) + "nodesMoved");
     }
@@ -118,7 +101,7 @@ bool BrokenService::is(const char *kind, const char *subject) const
     return m_fault == QByteArray(kind) + ':' + subject;
 }
 
-void BrokenService::relay(const char *name, Signal signal)
+void BrokenService::relay(const char *name, NodesSignal signal)
 {
     const auto type = is("late", name) ? Qt::QueuedConnection : Qt::DirectConnection;
     connect(

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "kit/RecordingService.h"
+#include "kit/nodeSignals.h"
 
 /// An overlay service with one fault, named "kind:subject":
 /// - "ignore:operation": a question is answered by nothing, a command is not followed;
@@ -169,10 +170,9 @@ public:
 
 private:
     using S = kxOverlayService;
-    using Signal = void (kxOverlayService::*)(const QRPC::NodeList &);
 
     bool is(const char *kind, const char *subject) const;
-    void relay(const char *name, Signal signal);
+    void relay(const char *name, NodesSignal signal);
     void relayMoves();
     bool namesUnknown(const QRPC::NodeList &nodes) const;
     void stumble(const char *operation) const;

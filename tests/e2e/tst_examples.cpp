@@ -1,17 +1,15 @@
 // SPDX-FileCopyrightText: the Overlay Editor authors
 // SPDX-License-Identifier: MIT
 
+#include "tests/e2e/ViewerTest.h"
 #include "tests/support/GraphicsDriver.h"
-#include "tests/support/KxTest.h"
 #include "tests/support/RealInput.h"
 #include "tests/viewer/app/OverlayPicture.h"
 #include "viewer/app/ModulePanels.h"
-#include "viewer/app/ViewerSession.h"
 #include "viewer/app/Viewport.h"
 
 #include <QDir>
 #include <QDockWidget>
-#include <QTreeView>
 
 #include <cmath>
 
@@ -19,7 +17,7 @@ using namespace viewer;
 
 /// The viewer as a user has it: real window, mouse and keys, the real plug-in file and each example.
 /// The plug-in starts once in a process, so that one test function walks through all of it.
-class tst_examples : public KxTest
+class tst_examples : public ViewerTest
 {
     Q_OBJECT
 
@@ -32,10 +30,7 @@ private:
     void editWhatIsSelected();
     void turnTheModel();
 
-    QModelIndexList selected() const { return m_tree->selectionModel()->selectedRows(); }
-
-    ViewerSession *m_session = nullptr;
-    QTreeView *m_tree = nullptr;
+    QModelIndexList selected() const { return tree()->selectionModel()->selectedRows(); }
 };
 
 namespace {
@@ -60,16 +55,12 @@ int nodesBelow(OverlayService *service, QRPC::NodeId parent)
 
 void tst_examples::shouldShowEveryExampleAndFollowMouseAndKeys()
 {
-    ViewerSession session(CommandLine({"overlay-viewer", "--plugin", EDITOR_PLUGIN}), nullptr);
-    m_session = &session;
-    session.start();
-    QVERIFY(becomesActive(session.window()));
+    QVERIFY(start({}));
     graphicsDriver::keepLoaded();
-    const QDockWidget *panel = session.window()->modulePanels()->dock("Overlay Editor");
+    const QDockWidget *panel = session()->window()->modulePanels()->dock("Overlay Editor");
     QVERIFY(panel);
     QTRY_VERIFY(panel->widget()->isVisible());
-    m_tree = panel->findChild<QTreeView *>();
-    QVERIFY(m_tree);
+    QVERIFY(panel->isAncestorOf(tree()));
 
     const QDir examples(QStringLiteral(EXAMPLES));
     const QStringList files = examples.entryList({"*.json"}, QDir::Files);
@@ -86,13 +77,13 @@ void tst_examples::shouldShowEveryExampleAndFollowMouseAndKeys()
 
 void tst_examples::showExample(const QString &file)
 {
-    QVERIFY(m_session->openScene(file));
-    QCOMPARE(m_session->window()->viewArea()->notices()->texts(), QStringList());
-    OverlayService *service = m_session->overlays();
+    QVERIFY(session()->openScene(file));
+    QCOMPARE(session()->window()->viewArea()->notices()->texts(), QStringList());
+    OverlayService *service = session()->overlays();
     const int nodes = nodesBelow(service, service->getRootNode());
     QVERIFY(nodes > 5);
-    QCOMPARE(rowsBelow(m_tree->model(), {}), nodes);
-    QImage nothing = overlayPicture(*m_session);
+    QCOMPARE(rowsBelow(tree()->model(), {}), nodes);
+    QImage nothing = overlayPicture(*session());
     const QImage shown = nothing.copy();
     nothing.fill(Qt::transparent);
     QVERIFY(shown != nothing);
@@ -100,23 +91,23 @@ void tst_examples::showExample(const QString &file)
 
 void tst_examples::selectWithMouseAndKeys()
 {
-    const QModelIndex row = m_tree->model()->index(1, 0);
-    realInput::click(*m_tree->viewport(), m_tree->visualRect(row).center());
+    const QModelIndex row = tree()->model()->index(1, 0);
+    clickRow(row);
     QTRY_COMPARE(selected(), QModelIndexList({row}));
-    const int open = m_tree->model()->rowCount();
+    const int open = tree()->model()->rowCount();
     realInput::key("ctrl+a");
     QTRY_COMPARE(selected().size(), open);
     realInput::key("ctrl+i");
-    QTRY_VERIFY(!m_tree->selectionModel()->isRowSelected(1, {}));
+    QTRY_VERIFY(!tree()->selectionModel()->isRowSelected(1, {}));
     // On another row: a second click on the same one could make a double click.
-    const QModelIndex first = m_tree->model()->index(0, 0);
-    realInput::click(*m_tree->viewport(), m_tree->visualRect(first).center());
+    const QModelIndex first = tree()->model()->index(0, 0);
+    clickRow(first);
     QTRY_COMPARE(selected(), QModelIndexList({first}));
 }
 
 void tst_examples::editWhatIsSelected()
 {
-    OverlayService *service = m_session->overlays();
+    OverlayService *service = session()->overlays();
     const QRPC::NodeId node = service->getChild(service->getRootNode(), 0);
     const bool enabled = service->isEnabled(node);
     realInput::key("ctrl+t");
@@ -127,7 +118,7 @@ void tst_examples::editWhatIsSelected()
 
 void tst_examples::turnTheModel()
 {
-    Viewport *viewport = m_session->window()->viewArea()->viewport();
+    Viewport *viewport = session()->window()->viewArea()->viewport();
     QVERIFY(viewport);
     // Through the layer of the overlays to the view below; the tree keeps its selection.
     const QPoint middle = viewport->rect().center();

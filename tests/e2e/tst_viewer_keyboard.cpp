@@ -3,31 +3,22 @@
 
 #include "host/QKXCollapsibleFrame.h"
 #include "host/QKXSearchBox.h"
-#include "host/kxStyle.h"
-#include "tests/support/KxTest.h"
+#include "tests/e2e/ViewerTest.h"
 #include "tests/support/RealInput.h"
-#include "viewer/app/ViewerSession.h"
 
-#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
-#include <QScreen>
 #include <QScrollArea>
 #include <QSpinBox>
-#include <QTreeView>
-
-using namespace viewer;
 
 /// A scene built and rearranged with the keyboard alone. After each step tree and service are the
-/// same, and a picture of the screen is left in the build folder to look at. One test function,
-/// because the editor of a process is created once.
-class tst_viewer_keyboard : public KxTest
+/// same, and a picture of the screen is left in the build folder to look at.
+class tst_viewer_keyboard : public ViewerTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void shouldDoItAllByKeyboard();
 
 private:
@@ -47,25 +38,13 @@ private:
     void check(const QString &step, const QString &tree);
     QString shown(const QModelIndex &parent = {}) const;
     QString stored(QRPC::NodeId parent) const;
-
-    ViewerSession *m_session = nullptr;
-    QTreeView *m_tree = nullptr;
-    int m_pictures = 0;
 };
-
-void tst_viewer_keyboard::initTestCase()
-{
-    QApplication::setStyle(new kxStyle);
-    QDir pictures(QStringLiteral(PICTURES));
-    pictures.removeRecursively();
-    QVERIFY(pictures.mkpath("."));
-}
 
 QString tst_viewer_keyboard::shown(const QModelIndex &parent) const
 {
     QStringList parts;
-    for (int row = 0; row < m_tree->model()->rowCount(parent); ++row) {
-        const QModelIndex index = m_tree->model()->index(row, 0, parent);
+    for (int row = 0; row < tree()->model()->rowCount(parent); ++row) {
+        const QModelIndex index = tree()->model()->index(row, 0, parent);
         const QString below = shown(index);
         parts << index.data().toString() + (below.isEmpty() ? QString() : '(' + below + ')');
     }
@@ -74,12 +53,11 @@ QString tst_viewer_keyboard::shown(const QModelIndex &parent) const
 
 QString tst_viewer_keyboard::stored(QRPC::NodeId parent) const
 {
-    OverlayService &service = *m_session->overlays();
     QStringList parts;
-    for (int row = 0; row < service.getChildCount(parent); ++row) {
-        const QRPC::NodeId node = service.getChild(parent, row);
+    for (int row = 0; row < service().getChildCount(parent); ++row) {
+        const QRPC::NodeId node = service().getChild(parent, row);
         const QString below = stored(node);
-        parts << service.getName(node) + (below.isEmpty() ? QString() : '(' + below + ')');
+        parts << service().getName(node) + (below.isEmpty() ? QString() : '(' + below + ')');
     }
     return parts.join(' ');
 }
@@ -87,21 +65,13 @@ QString tst_viewer_keyboard::stored(QRPC::NodeId parent) const
 void tst_viewer_keyboard::check(const QString &step, const QString &tree)
 {
     QTRY_COMPARE(shown(), tree);
-    QCOMPARE(stored(m_session->overlays()->getRootNode()), tree);
-    const QString file = QStringLiteral(PICTURES "/%1-%2.png").arg(++m_pictures, 2, 10, QChar('0'));
-    QCoreApplication::processEvents();
-    QVERIFY(m_session->window()->screen()->grabWindow(0).save(file.arg(step)));
+    QCOMPARE(stored(service().getRootNode()), tree);
+    photograph(step);
 }
 
 void tst_viewer_keyboard::shouldDoItAllByKeyboard()
 {
-    const CommandLine line({"overlay-viewer", "--plugin", EDITOR_PLUGIN});
-    ViewerSession session(line, nullptr);
-    m_session = &session;
-    session.start();
-    m_tree = session.window()->findChild<QTreeView *>();
-    QVERIFY(m_tree);
-    QVERIFY(becomesActive(session.window()));
+    QVERIFY(start({}));
     reachTheTree();
     createFromTheMenu();
     rename();
@@ -116,10 +86,10 @@ void tst_viewer_keyboard::shouldDoItAllByKeyboard()
 /// The window gives the keyboard to its view; the first control behind it is the search box.
 void tst_viewer_keyboard::reachTheTree()
 {
-    QWidget *view = m_session->window()->viewArea()->background();
+    QWidget *view = session()->window()->viewArea()->background();
     QTRY_COMPARE(QApplication::focusWidget(), view);
     QVERIFY(qobject_cast<QKXSearchBox *>(step("Tab", view)));
-    QCOMPARE(step("Tab", QApplication::focusWidget()), m_tree);
+    QCOMPARE(step("Tab", QApplication::focusWidget()), tree());
 }
 
 /// Opens the menu of the tree by its key and goes down to an entry, counted from 1.
@@ -137,10 +107,10 @@ void tst_viewer_keyboard::createFromTheMenu()
 {
     choose(1);
     check("created", "Text 1");
-    QVERIFY(m_tree->hasFocus());
+    QVERIFY(tree()->hasFocus());
     choose(1);
     check("created-another", "Text 1 Text 2");
-    QCOMPARE(m_tree->selectionModel()->selectedRows().size(), 1);
+    QCOMPARE(tree()->selectionModel()->selectedRows().size(), 1);
 }
 
 void tst_viewer_keyboard::rename()
@@ -150,7 +120,7 @@ void tst_viewer_keyboard::rename()
     realInput::type("Gate");
     realInput::key("Return");
     check("renamed", "Text 1 Gate");
-    QTRY_VERIFY(m_tree->hasFocus());
+    QTRY_VERIFY(tree()->hasFocus());
 }
 
 void tst_viewer_keyboard::keepKeysInTheNameEditor()
@@ -163,16 +133,16 @@ void tst_viewer_keyboard::keepKeysInTheNameEditor()
     auto *editor = qobject_cast<QLineEdit *>(QApplication::focusWidget());
     QTRY_COMPARE(editor->text(), QString("Door"));
     realInput::key("Escape");
-    QTRY_VERIFY(m_tree->hasFocus());
+    QTRY_VERIFY(tree()->hasFocus());
     check("name-editor-left", "Text 1 Gate");
-    const QModelIndex gate = m_tree->model()->index(1, 0);
+    const QModelIndex gate = tree()->model()->index(1, 0);
     QCOMPARE(gate.data(Qt::CheckStateRole).toInt(), int(Qt::Checked));
 }
 
 void tst_viewer_keyboard::group()
 {
     realInput::key("ctrl+a");
-    QTRY_COMPARE(m_tree->selectionModel()->selectedRows().size(), 2);
+    QTRY_COMPARE(tree()->selectionModel()->selectedRows().size(), 2);
     realInput::key("ctrl+shift+g");
     check("grouped", "Group 1(Text 1 Gate)");
     realInput::key("ctrl+g");
@@ -196,17 +166,17 @@ void tst_viewer_keyboard::search()
     realInput::key("ctrl+f");
     QTRY_VERIFY(qobject_cast<QLineEdit *>(QApplication::focusWidget()));
     realInput::type("Gate");
-    const auto *guide = m_session->window()->findChild<QLabel *>("searchGuide");
+    const auto *guide = session()->window()->findChild<QLabel *>("searchGuide");
     QTRY_COMPARE(guide->text(), QString("1 found\n1 selected, but hidden by the search"));
     check("searched", "Group 1(Text 1 Gate Group 2)");
     realInput::key("Down");
-    QTRY_VERIFY(m_tree->hasFocus());
+    QTRY_VERIFY(tree()->hasFocus());
     realInput::key("ctrl+f");
-    QTRY_VERIFY(!m_tree->hasFocus());
+    QTRY_VERIFY(!tree()->hasFocus());
     realInput::key("Escape");
     QTRY_VERIFY(!guide->isVisible());
     realInput::key("Down");
-    QTRY_VERIFY(m_tree->hasFocus());
+    QTRY_VERIFY(tree()->hasFocus());
 }
 
 void tst_viewer_keyboard::remove()
@@ -215,7 +185,7 @@ void tst_viewer_keyboard::remove()
     check("deleted", "Group 1(Text 1 Gate)");
     realInput::key("Home");
     realInput::key("Down");
-    QTRY_COMPARE(m_tree->currentIndex().data().toString(), QString("Text 1"));
+    QTRY_COMPARE(tree()->currentIndex().data().toString(), QString("Text 1"));
 }
 
 /// From the tree Tab goes to the first header of the panel and down to its last control, then to the
@@ -223,9 +193,9 @@ void tst_viewer_keyboard::remove()
 /// the focus.
 void tst_viewer_keyboard::walkThroughThePanel()
 {
-    const auto *panel = m_session->window()->findChild<QScrollArea *>("_property_scrollArea");
+    const auto *panel = session()->window()->findChild<QScrollArea *>("_property_scrollArea");
     const auto *frame = panel->findChild<QKXCollapsibleFrame *>("_property_frame");
-    QVector<QWidget *> path{m_tree};
+    QVector<QWidget *> path{tree()};
     int lastTop = -1;
     do {
         QWidget *control = step("Tab", path.constLast());
@@ -242,8 +212,8 @@ void tst_viewer_keyboard::walkThroughThePanel()
     QCOMPARE(path.at(1)->parentWidget(), frame);
     QVERIFY2(path.size() > 12, qPrintable(QString::number(path.size())));
     QVERIFY(qobject_cast<QKXSearchBox *>(path.constLast()));
-    QCOMPARE(step("Tab", path.constLast()), m_tree);
-    QWidget *from = m_tree;
+    QCOMPARE(step("Tab", path.constLast()), tree());
+    QWidget *from = tree();
     for (auto control = path.crbegin(); control != path.crend(); ++control) {
         from = step("shift+Tab", from);
         QCOMPARE(from, *control);

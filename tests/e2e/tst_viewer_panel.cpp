@@ -1,26 +1,19 @@
 // SPDX-FileCopyrightText: the Overlay Editor authors
 // SPDX-License-Identifier: MIT
 
-#include "host/kxStyle.h"
-#include "tests/support/KxTest.h"
+#include "tests/e2e/ViewerTest.h"
 #include "tests/support/RealInput.h"
-#include "viewer/app/ViewerSession.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
-#include <QDir>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QRadioButton>
-#include <QScreen>
 #include <QScrollArea>
 #include <QSignalSpy>
 #include <QSlider>
 #include <QTemporaryDir>
 #include <QTimer>
-#include <QTreeView>
-
-using namespace viewer;
 
 namespace {
 
@@ -35,18 +28,15 @@ const char *const SceneText = R"({"format": "overlay-scene", "version": 1, "over
 } // namespace
 
 /// One sitting of a user at the property panel, by mouse and keys alone: after each step the scene is
-/// what the user meant, and a picture of the screen is left in the build folder to look at. One test
-/// function, because the editor of a process is created once.
-class tst_viewer_panel : public KxTest
+/// what the user meant, and a picture of the screen is left in the build folder to look at.
+class tst_viewer_panel : public ViewerTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void shouldEditTheSelectionByHand();
 
 private:
-    void openScene(ViewerSession *session);
     void selectTwoTexts();
     void pickAColour();
     void typeAText();
@@ -64,35 +54,21 @@ private:
     template<typename T>
     T *control(const QString &name) const;
     void showControl(QWidget *widget) const;
-    void photograph(const QString &step);
-    QRPC::NodeId node(const QString &name) const;
-    OverlayService &service() const { return *m_session->overlays(); }
 
-    ViewerSession *m_session = nullptr;
-    QTreeView *m_tree = nullptr;
     QTemporaryDir m_folder;
     QRPC::NodeList m_edited;
-    int m_pictures = 0;
 };
 
 /// Both edited overlays have the value, and the third one has not.
 #define SHOULD_HOLD(getter, value)                                                                 \
     QTRY_COMPARE(service().getter(m_edited.at(0)), value);                                         \
     QCOMPARE(service().getter(m_edited.at(1)), value);                                             \
-    QVERIFY(service().getter(node("Third")) != (value))
-
-void tst_viewer_panel::initTestCase()
-{
-    QApplication::setStyle(new kxStyle);
-    QDir pictures(QStringLiteral(PICTURES));
-    pictures.removeRecursively();
-    QVERIFY(pictures.mkpath("."));
-}
+    QVERIFY(service().getter(nodeOf("Third")) != (value))
 
 template<typename T>
 T *tst_viewer_panel::control(const QString &name) const
 {
-    return m_session->window()->findChild<T *>(name);
+    return session()->window()->findChild<T *>(name);
 }
 
 /// Scrolls the panel, as a user does before reaching for a control.
@@ -110,31 +86,14 @@ void tst_viewer_panel::click(const QString &widget, const QPoint &place)
     realInput::click(*found, place.isNull() ? found->rect().center() : place);
 }
 
-void tst_viewer_panel::photograph(const QString &step)
-{
-    const QString file = QStringLiteral(PICTURES "/%1-%2.png").arg(++m_pictures, 2, 10, QChar('0'));
-    QCoreApplication::processEvents();
-    QVERIFY(m_session->window()->screen()->grabWindow(0).save(file.arg(step)));
-}
-
-QRPC::NodeId tst_viewer_panel::node(const QString &name) const
-{
-    const QModelIndex row = m_tree->model()
-                                ->match(m_tree->model()->index(0, 0), Qt::DisplayRole, name, 1,
-                                        Qt::MatchExactly | Qt::MatchRecursive)
-                                .value(0);
-    return row.data(Qt::UserRole + 1).toUInt();
-}
-
 void tst_viewer_panel::shouldEditTheSelectionByHand()
 {
     QFile file(m_folder.filePath("scene.json"));
     QVERIFY(file.open(QIODevice::WriteOnly));
     QVERIFY(file.write(SceneText) > 0);
     file.close();
-    const CommandLine line({"overlay-viewer", file.fileName(), "--plugin", EDITOR_PLUGIN});
-    ViewerSession session(line, nullptr);
-    openScene(&session);
+    QVERIFY(start({file.fileName()}));
+    m_edited = {nodeOf("Title"), nodeOf("Subtitle")};
 
     selectTwoTexts();
     pickAColour();
@@ -150,23 +109,12 @@ void tst_viewer_panel::shouldEditTheSelectionByHand()
     clearTheImage();
 }
 
-void tst_viewer_panel::openScene(ViewerSession *session)
-{
-    m_session = session;
-    session->start();
-    m_tree = session->window()->findChild<QTreeView *>();
-    QVERIFY(m_tree);
-    QVERIFY(becomesActive(session->window()));
-    m_edited = {node("Title"), node("Subtitle")};
-}
-
 void tst_viewer_panel::selectTwoTexts()
 {
-    const QModelIndex first = m_tree->model()->index(0, 0);
-    realInput::click(*m_tree->viewport(), m_tree->visualRect(first).center());
-    realInput::click(*m_tree->viewport(), m_tree->visualRect(first.siblingAtRow(1)).center(),
-                     {"ctrl"});
-    QTRY_COMPARE(m_tree->selectionModel()->selectedRows().size(), 2);
+    const QModelIndex first = tree()->model()->index(0, 0);
+    clickRow(first);
+    clickRow(first.siblingAtRow(1), {"ctrl"});
+    QTRY_COMPARE(tree()->selectionModel()->selectedRows().size(), 2);
     QVERIFY(control<QWidget>("_text_edit")->property("multiselect").toBool());
     QVERIFY(!control<QWidget>("_color_slider")->property("multiselect").isValid());
     photograph("two-texts-selected");

@@ -1,42 +1,30 @@
 // SPDX-FileCopyrightText: the Overlay Editor authors
 // SPDX-License-Identifier: MIT
 
-#include "host/kxStyle.h"
-#include "tests/support/KxTest.h"
+#include "tests/e2e/ViewerTest.h"
 #include "tests/support/RealInput.h"
-#include "viewer/app/ViewerSession.h"
 
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QTreeView>
 
-using namespace viewer;
-
-/// A session by mouse and keys that is recorded, and its replay without a window. One test function,
-/// because the editor of a process is created once.
-class tst_viewer_recording : public KxTest
+/// A session by mouse and keys that is recorded, and its replay without a window.
+class tst_viewer_recording : public ViewerTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void shouldComeToTheSameFileWhenReplayed();
 
 private:
     QString path(const char *name) const { return m_folder.filePath(QLatin1String(name)); }
     bool write(const char *name, const QByteArray &content) const;
     QByteArray contentOf(const char *name) const;
-    void work(ViewerSession *session);
-    void clickRow(QTreeView *tree, int row);
+    void work();
+    void focusRow(int row);
 
     QTemporaryDir m_folder;
 };
-
-void tst_viewer_recording::initTestCase()
-{
-    QApplication::setStyle(new kxStyle);
-}
 
 bool tst_viewer_recording::write(const char *name, const QByteArray &content) const
 {
@@ -50,46 +38,44 @@ QByteArray tst_viewer_recording::contentOf(const char *name) const
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-void tst_viewer_recording::clickRow(QTreeView *tree, int row)
+void tst_viewer_recording::focusRow(int row)
 {
-    const QModelIndex index = tree->model()->index(row, 0);
-    realInput::click(*tree->viewport(), tree->visualRect(index).center());
-    QTRY_COMPARE(tree->currentIndex(), index);
-    QTRY_VERIFY(tree->hasFocus());
+    const QModelIndex index = tree()->model()->index(row, 0);
+    clickRow(index);
+    QTRY_COMPARE(tree()->currentIndex(), index);
+    QTRY_VERIFY(tree()->hasFocus());
 }
 
-void tst_viewer_recording::work(ViewerSession *session)
+void tst_viewer_recording::work()
 {
-    const QUndoStack &stack = *session->overlays()->history().stack();
-    OverlayService *overlays = session->overlays();
-    auto *tree = session->window()->findChild<QTreeView *>();
-    QVERIFY(tree);
-    clickRow(tree, 0);
+    viewer::OverlayService *overlays = session()->overlays();
+    const QUndoStack &stack = *overlays->history().stack();
+    focusRow(0);
     realInput::key("alt+Down");
     QTRY_COMPARE(overlays->getName(overlays->getChild(1, 1)), QString("Title"));
-    clickRow(tree, 0);
-    auto *text = session->window()->findChild<QPlainTextEdit *>();
+    focusRow(0);
+    auto *text = session()->window()->findChild<QPlainTextEdit *>();
     realInput::click(*text->viewport(), text->viewport()->rect().center());
     QTRY_VERIFY(text->hasFocus());
     realInput::type("Seen and written");
     QTRY_VERIFY(overlays->getText(overlays->getChild(1, 0)).contains("Seen and written"));
     QCOMPARE(stack.count(), 2);
-    clickRow(tree, 1);
+    focusRow(1);
     realInput::key("ctrl+d");
     QTRY_COMPARE(overlays->getChildCount(1), 4);
     realInput::key("ctrl+z");
     QTRY_COMPARE(overlays->getChildCount(1), 3);
     realInput::key("ctrl+shift+z");
     QTRY_COMPARE(overlays->getChildCount(1), 4);
-    clickRow(tree, 0);
+    focusRow(0);
     realInput::key("Delete");
     QTRY_COMPARE(overlays->getChildCount(1), 3);
     realInput::key("ctrl+z");
     QTRY_COMPARE(overlays->getChildCount(1), 4);
-    session->runScript(path("own.js"));
+    session()->runScript(path("own.js"));
     realInput::key("ctrl+z");
     QTRY_COMPARE(overlays->getChildCount(1), 4);
-    session->runScript(path("own.js"));
+    session()->runScript(path("own.js"));
 }
 
 void tst_viewer_recording::shouldComeToTheSameFileWhenReplayed()
@@ -102,13 +88,9 @@ void tst_viewer_recording::shouldComeToTheSameFileWhenReplayed()
     QVERIFY(QFile::copy(path("a.json"), path("before.json")));
     QVERIFY(write("own.js", "overlays.groupNodes([2, 3]); overlays.createOverlay(1);"
                             "history.undo(); overlays.createSwitch(1);"));
-    const CommandLine line(
-        {"overlay-viewer", path("a.json"), "--record", path("r.js"), "--plugin", EDITOR_PLUGIN});
-    ViewerSession session(line, nullptr);
-    session.start();
-    QVERIFY(becomesActive(session.window()));
-    work(&session);
-    QVERIFY(session.document()->save());
+    QVERIFY(start({path("a.json"), "--record", path("r.js")}));
+    work();
+    QVERIFY(session()->document()->save());
 
     const int code =
         QProcess::execute(VIEWER_PROGRAM, {"--headless", "--scene", path("before.json"), "--script",

@@ -2,28 +2,22 @@
 // SPDX-License-Identifier: MIT
 
 #include "host/kxShortcut.h"
-#include "host/kxStyle.h"
-#include "tests/support/KxTest.h"
+#include "tests/e2e/ViewerTest.h"
 #include "tests/support/RealDrag.h"
 #include "tests/support/RealInput.h"
-#include "viewer/app/ViewerSession.h"
 
 #include <QDialog>
 #include <QLineEdit>
 #include <QMenu>
-#include <QTreeView>
 #include <QTreeWidget>
 
-using namespace viewer;
-
 /// Nodes rearranged in the running viewer, by keys and by mouse, with the plug-in's tree and the
-/// viewer's own service. One test function, because the editor of a process is created once.
-class tst_viewer_reorder : public KxTest
+/// viewer's own service.
+class tst_viewer_reorder : public ViewerTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void shouldRearrangeTheScene();
 
 private:
@@ -33,69 +27,33 @@ private:
     void dragRows();
     void listShortcuts();
 
-    QModelIndex rowOf(const QString &name) const;
     void click(const QString &name, const QStringList &held = {});
     void drag(const QString &name, const QString &onto);
-    QStringList topRows() const;
-    QStringList selectedNames() const;
     QString treeOf(const QModelIndex &parent) const;
     QString sceneOf(QRPC::NodeId parent) const;
     QString difference() const;
-
-    ViewerSession *m_session = nullptr;
-    QTreeView *m_tree = nullptr;
 };
-
-void tst_viewer_reorder::initTestCase()
-{
-    QApplication::setStyle(new kxStyle);
-}
-
-QModelIndex tst_viewer_reorder::rowOf(const QString &name) const
-{
-    return m_tree->model()
-        ->match(m_tree->model()->index(0, 0), Qt::DisplayRole, name, 1,
-                Qt::MatchExactly | Qt::MatchRecursive)
-        .value(0);
-}
 
 void tst_viewer_reorder::click(const QString &name, const QStringList &held)
 {
-    realInput::click(*m_tree->viewport(), m_tree->visualRect(rowOf(name)).center(), held);
+    clickRow(rowOf(name), held);
     QTRY_VERIFY(selectedNames().contains(name));
 }
 
 void tst_viewer_reorder::drag(const QString &name, const QString &onto)
 {
-    RealDrag drag(m_tree->viewport(), [=] { return m_tree->visualRect(rowOf(onto)).center(); });
-    const QRect row = m_tree->visualRect(rowOf(name));
-    QVERIFY(drag.runFrom(m_tree->viewport(), QPoint(row.left() + 30, row.center().y())));
+    RealDrag drag(tree()->viewport(), [=] { return tree()->visualRect(rowOf(onto)).center(); });
+    const QRect row = tree()->visualRect(rowOf(name));
+    QVERIFY(drag.runFrom(tree()->viewport(), QPoint(row.left() + 30, row.center().y())));
     QCoreApplication::processEvents();
     QCOMPARE(difference(), QString());
-}
-
-QStringList tst_viewer_reorder::topRows() const
-{
-    QStringList names;
-    for (int row = 0; row < m_tree->model()->rowCount(); ++row)
-        names.append(m_tree->model()->index(row, 0).data().toString());
-    return names;
-}
-
-QStringList tst_viewer_reorder::selectedNames() const
-{
-    QStringList names;
-    const QModelIndexList indexes = m_tree->selectionModel()->selectedIndexes();
-    for (const QModelIndex &index : indexes)
-        names.append(index.data().toString());
-    return names;
 }
 
 QString tst_viewer_reorder::treeOf(const QModelIndex &parent) const
 {
     QString line;
-    for (int row = 0; row < m_tree->model()->rowCount(parent); ++row) {
-        const QModelIndex index = m_tree->model()->index(row, 0, parent);
+    for (int row = 0; row < tree()->model()->rowCount(parent); ++row) {
+        const QModelIndex index = tree()->model()->index(row, 0, parent);
         line += QString("%1 %2 %3 %4(%5)")
                     .arg(index.data(Qt::UserRole + 1).toUInt())
                     .arg(index.data().toString())
@@ -108,15 +66,14 @@ QString tst_viewer_reorder::treeOf(const QModelIndex &parent) const
 
 QString tst_viewer_reorder::sceneOf(QRPC::NodeId parent) const
 {
-    OverlayService &service = *m_session->overlays();
     QString line;
-    for (int row = 0; row < service.getChildCount(parent); ++row) {
-        const QRPC::NodeId node = service.getChild(parent, row);
+    for (int row = 0; row < service().getChildCount(parent); ++row) {
+        const QRPC::NodeId node = service().getChild(parent, row);
         line += QString("%1 %2 %3 %4(%5)")
                     .arg(node)
-                    .arg(service.getName(node))
-                    .arg(service.isEnabled(node))
-                    .arg(service.isActive(node))
+                    .arg(service().getName(node))
+                    .arg(service().isEnabled(node))
+                    .arg(service().isActive(node))
                     .arg(sceneOf(node));
     }
     return line;
@@ -126,21 +83,14 @@ QString tst_viewer_reorder::sceneOf(QRPC::NodeId parent) const
 QString tst_viewer_reorder::difference() const
 {
     const QString shown = treeOf(QModelIndex());
-    const QString wanted = sceneOf(m_session->overlays()->getRootNode());
+    const QString wanted = sceneOf(service().getRootNode());
     return shown == wanted ? QString() : shown + '\n' + wanted;
 }
 
 void tst_viewer_reorder::shouldRearrangeTheScene()
 {
-    const CommandLine line(
-        {"overlay-viewer", EXAMPLES "/title_sheet.json", "--plugin", EDITOR_PLUGIN});
-    ViewerSession session(line, nullptr);
-    m_session = &session;
-    session.start();
-    m_tree = session.window()->findChild<QTreeView *>();
-    QVERIFY(m_tree);
-    QVERIFY(becomesActive(session.window()));
-    QCOMPARE(session.window()->viewArea()->notices()->texts(), QStringList());
+    QVERIFY(start({EXAMPLES "/title_sheet.json"}));
+    QCOMPARE(session()->window()->viewArea()->notices()->texts(), QStringList());
 
     moveByKey();
     moveFromTheMenu();
@@ -158,17 +108,17 @@ void tst_viewer_reorder::moveByKey()
     realInput::key("alt+Up");
     QTRY_COMPARE(topRows().indexOf("Draft"), 2);
     QCOMPARE(selectedNames(), QStringList{"Draft"});
-    QCOMPARE(m_tree->currentIndex(), rowOf("Draft"));
+    QCOMPARE(tree()->currentIndex(), rowOf("Draft"));
     realInput::key("alt+Down");
     QTRY_COMPARE(topRows().indexOf("Draft"), 3);
     QCOMPARE(difference(), QString());
 
     // Credits stands above it and takes it in; the selection goes with it.
-    m_tree->expand(rowOf("Heading"));
+    tree()->expand(rowOf("Heading"));
     realInput::key("alt+Right");
     QTRY_COMPARE(rowOf("Draft").parent(), rowOf("Credits"));
     QCOMPARE(selectedNames(), QStringList{"Draft"});
-    QVERIFY(m_tree->isExpanded(rowOf("Credits")));
+    QVERIFY(tree()->isExpanded(rowOf("Credits")));
     realInput::key("alt+Left");
     QTRY_COMPARE(rowOf("Draft").parent(), QModelIndex());
     QCOMPARE(topRows(), (QStringList{"Shade", "Heading", "Credits", "Draft", "Brand", "Guides"}));
@@ -192,13 +142,13 @@ void tst_viewer_reorder::moveFromTheMenu()
 /// The same keys mean other things in other widgets.
 void tst_viewer_reorder::leaveTheKeysToOthers()
 {
-    const auto *up = m_session->window()->findChild<QAction *>("moveUp");
+    const auto *up = session()->window()->findChild<QAction *>("moveUp");
     QVERIFY(up->isEnabled());
     realInput::key("ctrl+f");
     QTRY_VERIFY(qobject_cast<QLineEdit *>(QApplication::focusWidget()));
     QVERIFY(!up->isEnabled());
     realInput::key("Down");
-    QTRY_COMPARE(QApplication::focusWidget(), static_cast<QWidget *>(m_tree));
+    QTRY_COMPARE(QApplication::focusWidget(), static_cast<QWidget *>(tree()));
     QVERIFY(up->isEnabled());
     realInput::key("ctrl+r");
     QTRY_VERIFY(qobject_cast<QLineEdit *>(QApplication::focusWidget()));
@@ -206,7 +156,7 @@ void tst_viewer_reorder::leaveTheKeysToOthers()
     const QStringList before = topRows();
     realInput::key("alt+Up");
     realInput::key("Escape");
-    QTRY_COMPARE(QApplication::focusWidget(), static_cast<QWidget *>(m_tree));
+    QTRY_COMPARE(QApplication::focusWidget(), static_cast<QWidget *>(tree()));
     QCOMPARE(topRows(), before);
 }
 
@@ -223,14 +173,14 @@ void tst_viewer_reorder::dragRows()
     QCOMPARE(rowOf("Guides").parent(), rowOf("Heading"));
     click("Credits");
     drag("Credits", "Heading");
-    m_tree->expandAll();
+    tree()->expandAll();
     QCOMPARE(difference(), QString());
 }
 
 void tst_viewer_reorder::listShortcuts()
 {
-    m_session->window()->findChild<QAction *>("keyboardShortcutsEntry")->trigger();
-    auto *dialog = m_session->window()->findChild<QDialog *>("keyboardShortcuts");
+    session()->window()->findChild<QAction *>("keyboardShortcutsEntry")->trigger();
+    auto *dialog = session()->window()->findChild<QDialog *>("keyboardShortcuts");
     QVERIFY(dialog);
     QVERIFY(becomesActive(dialog));
     auto *list = dialog->findChild<QTreeWidget *>();

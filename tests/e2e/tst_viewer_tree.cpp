@@ -1,75 +1,41 @@
 // SPDX-FileCopyrightText: the Overlay Editor authors
 // SPDX-License-Identifier: MIT
 
-#include "host/kxStyle.h"
-#include "tests/support/KxTest.h"
+#include "tests/e2e/ViewerTest.h"
 #include "tests/support/RealInput.h"
-#include "viewer/app/ViewerSession.h"
 
-#include <QTreeView>
-
-using namespace viewer;
-
-/// The tree in the running viewer, by real mouse and keys. One test function, because the editor of
-/// a process is created once.
-class tst_viewer_tree : public KxTest
+/// The tree in the running viewer, by real mouse and keys.
+class tst_viewer_tree : public ViewerTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void shouldFollowMouseAndKeys();
 
 private:
     void click(int row, const QStringList &heldKeys = {});
-    QStringList rows() const;
     QStringList selectedRows() const;
 
     void selectByMouse();
     void selectByKeys();
     void deleteScatteredRows();
-
-    QTreeView *m_tree = nullptr;
 };
-
-void tst_viewer_tree::initTestCase()
-{
-    QApplication::setStyle(new kxStyle);
-}
 
 void tst_viewer_tree::click(int row, const QStringList &heldKeys)
 {
-    const QRect place = m_tree->visualRect(m_tree->model()->index(row, 0));
-    realInput::click(*m_tree->viewport(), place.center(), heldKeys);
-}
-
-QStringList tst_viewer_tree::rows() const
-{
-    QStringList names;
-    for (int row = 0; row < m_tree->model()->rowCount(); ++row)
-        names.append(m_tree->model()->index(row, 0).data().toString());
-    return names;
+    clickRow(tree()->model()->index(row, 0), heldKeys);
 }
 
 QStringList tst_viewer_tree::selectedRows() const
 {
-    QStringList names;
-    const QModelIndexList indexes = m_tree->selectionModel()->selectedIndexes();
-    for (const QModelIndex &index : indexes)
-        names.append(index.data().toString());
+    QStringList names = selectedNames();
     names.sort();
     return names;
 }
 
 void tst_viewer_tree::shouldFollowMouseAndKeys()
 {
-    const CommandLine line(
-        {"overlay-viewer", EXAMPLES "/title_sheet.json", "--plugin", EDITOR_PLUGIN});
-    ViewerSession session(line, nullptr);
-    session.start();
-    m_tree = session.window()->findChild<QTreeView *>();
-    QVERIFY(m_tree);
-    QVERIFY(becomesActive(session.window()));
+    QVERIFY(start({EXAMPLES "/title_sheet.json"}));
 
     selectByMouse();
     selectByKeys();
@@ -78,7 +44,7 @@ void tst_viewer_tree::shouldFollowMouseAndKeys()
 
 void tst_viewer_tree::selectByMouse()
 {
-    QCOMPARE(rows(), (QStringList{"Shade", "Heading", "Credits", "Brand", "Draft", "Guides"}));
+    QCOMPARE(topRows(), (QStringList{"Shade", "Heading", "Credits", "Brand", "Draft", "Guides"}));
     click(1);
     QTRY_COMPARE(selectedRows(), QStringList{"Heading"});
     click(3, {"shift"});
@@ -109,7 +75,7 @@ void tst_viewer_tree::deleteScatteredRows()
     click(4, {"ctrl"});
     QTRY_COMPARE(selectedRows(), (QStringList{"Credits", "Draft", "Heading", "Shade"}));
     realInput::key("Delete");
-    QTRY_COMPARE(rows(), (QStringList{"Brand", "Guides"}));
+    QTRY_COMPARE(topRows(), (QStringList{"Brand", "Guides"}));
     QCOMPARE(selectedRows(), QStringList());
 }
 

@@ -1,17 +1,14 @@
 // SPDX-FileCopyrightText: the Overlay Editor authors
 // SPDX-License-Identifier: MIT
 
-#include "host/kxStyle.h"
-#include "tests/support/KxTest.h"
+#include "tests/e2e/ViewerTest.h"
 #include "tests/support/RealInput.h"
 #include "viewer/app/OverlayLayer.h"
-#include "viewer/app/ViewerSession.h"
 #include "viewer/app/Viewport.h"
 
 #include <QPlainTextEdit>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTreeView>
 
 using namespace viewer;
 
@@ -50,57 +47,45 @@ QString writeScene(const QString &folder)
 
 } // namespace
 
-/// What one key costs while a thousand overlays are selected. One test function, because the editor
-/// of a process is created once.
-class tst_viewer_typing : public KxTest
+/// What one key costs while a thousand overlays are selected.
+class tst_viewer_typing : public ViewerTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void shouldSendAndPaintOncePerKey();
 
 private:
-    void selectAll(ViewerSession *session);
-    void pressAndCount(ViewerSession *session);
-};
+    void selectAll();
+    void pressAndCount();
 
-void tst_viewer_typing::initTestCase()
-{
-    QApplication::setStyle(new kxStyle);
-}
+    QTemporaryDir m_folder;
+};
 
 void tst_viewer_typing::shouldSendAndPaintOncePerKey()
 {
-    QTemporaryDir folder;
-    const QString scene = writeScene(folder.path());
-    const CommandLine line({"overlay-viewer", scene, "--plugin", EDITOR_PLUGIN});
-    ViewerSession session(line, nullptr);
-    session.start();
-    QVERIFY(becomesActive(session.window()));
-    selectAll(&session);
-    pressAndCount(&session);
+    QVERIFY(start({writeScene(m_folder.path())}));
+    selectAll();
+    pressAndCount();
 }
 
-void tst_viewer_typing::selectAll(ViewerSession *session)
+void tst_viewer_typing::selectAll()
 {
-    auto *tree = session->window()->findChild<QTreeView *>();
-    QVERIFY(tree);
-    realInput::click(*tree->viewport(), tree->visualRect(tree->model()->index(0, 0)).center());
-    QTRY_VERIFY(tree->hasFocus());
+    clickRow(tree()->model()->index(0, 0));
+    QTRY_VERIFY(tree()->hasFocus());
     realInput::key("ctrl+a");
-    QTRY_COMPARE(tree->selectionModel()->selectedRows().size(), 1000);
+    QTRY_COMPARE(tree()->selectionModel()->selectedRows().size(), 1000);
 }
 
-void tst_viewer_typing::pressAndCount(ViewerSession *session)
+void tst_viewer_typing::pressAndCount()
 {
-    auto *field = session->window()->findChild<QPlainTextEdit *>("_text_edit");
+    auto *field = session()->window()->findChild<QPlainTextEdit *>("_text_edit");
     realInput::click(*field, field->rect().center());
     QTRY_VERIFY(field->hasFocus());
     realInput::key("End");
-    auto *layer = session->window()->findChild<OverlayLayer *>();
+    auto *layer = session()->window()->findChild<OverlayLayer *>();
     QVERIFY(layer && layer->isVisible());
-    Viewport *background = session->window()->viewArea()->viewport();
+    Viewport *background = session()->window()->viewArea()->viewport();
     QVERIFY(background);
     QTRY_VERIFY(!field->document()->toPlainText().isEmpty());
     const QString before = field->document()->toPlainText();
@@ -108,7 +93,7 @@ void tst_viewer_typing::pressAndCount(ViewerSession *session)
     // The next key is announced once, with every node, and drawn once, however long one waits;
     // the 3D view keeps its own picture.
     for (const QString &key : {QStringLiteral("x"), QStringLiteral("y")}) {
-        QSignalSpy announced(session->overlays(), &kxOverlayService::textChanged);
+        QSignalSpy announced(&service(), &kxOverlayService::textChanged);
         const Paintings backgrounds(background);
         const Paintings paintings(layer);
         realInput::key(key);

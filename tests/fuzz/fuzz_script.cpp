@@ -15,7 +15,7 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
-#include <condition_variable>
+#include <future>
 #include <thread>
 
 using namespace viewer;
@@ -65,29 +65,22 @@ class Watchdog
 {
 public:
     explicit Watchdog(ScriptRun *script)
-        : m_thread([this, script] {
-            std::unique_lock<std::mutex> lock(m_mutex);
-            if (!m_end.wait_for(lock, Patience, [this] { return m_isOver; }))
+        : m_thread([script, isOver = m_over.get_future()] {
+            if (isOver.wait_for(Patience) == std::future_status::timeout)
                 script->interrupt();
         })
     {
     }
     ~Watchdog()
     {
-        {
-            const std::lock_guard<std::mutex> lock(m_mutex);
-            m_isOver = true;
-        }
-        m_end.notify_one();
+        m_over.set_value();
         m_thread.join();
     }
     Q_DISABLE_COPY(Watchdog)
 
 private:
-    std::mutex m_mutex;
-    std::condition_variable m_end;
-    bool m_isOver = false;
-    std::thread m_thread; // the last one, since it uses the others
+    std::promise<void> m_over;
+    std::thread m_thread; // the last one, since it is told by the other
 };
 
 ScriptOutcome run(OverlayService *service, const QString &file)

@@ -7,9 +7,9 @@
     host <- kit <- conformance;  tests and bench see all.
 
 The viewer knows the module as a file that it loads, never as a header. Each folder of examples/ is a
-project of its own, with its own root. Below viewer/, scene,
-script, render and edit do without windows: each may include what it builds upon, and none what shows
-them.
+project of its own, with its own root. Below viewer/, scene, script, render and edit do without
+windows: each may include what it builds upon, and none what shows them. A source in a folder that is
+not named here is at fault, since nobody has said what it may include.
 
 Usage: arrows.py ROOT
 """
@@ -72,7 +72,10 @@ def fault(name, quote, target):
 def faults(root):
     result = []
     for name, text in sources.texts(root):
-        if not name.endswith((".cpp", ".h")) or holder(name) is None:
+        if not name.endswith((".cpp", ".h")):
+            continue
+        if holder(name) is None:
+            result.append(f"{name}:1: the arrows say nothing of this folder")
             continue
         for match in INCLUDE.finditer(text):
             wrong = fault(name, match.group(1), match.group(2))

@@ -7,6 +7,7 @@ text of a file is one rule; what it yields are pairs of line number and fault.
 Usage: rules.py ROOT
 """
 
+import ast
 import pathlib
 import re
 import sys
@@ -17,7 +18,12 @@ LICENSE_LINES = ("SPDX-FileCopyrightText: the Overlay Editor authors",
                  "SPDX-License-Identifier: MIT")
 LICENSED = (".cpp", ".h", ".py", ".sh", ".cmake", "CMakeLists.txt", "/with-display", "dev",
             ".ci/run")
+SOURCE = re.compile(r"\.(?:cpp|h|py|js|sh|ui|cmake|frag|vert)$|(?:^|/)(?:CMakeLists\.txt|dev|with-display)$")
 LONGEST_SOURCE = 500
+LONGEST_FUNCTION = 60
+# The mark that clang-tidy understands too, on the line of the name.
+TABLE = "// NOLINT(readability-function-size)"
+TYPE = re.compile(r"(?:template\b.*)?(?:class|struct|union|enum|namespace)\b|extern \"C\"")
 # Written in pieces, so that this file does not break its own rule.
 UNFINISHED = re.compile(r"\b(?:" + "|".join(("TO" "DO", "FIX" "ME", "X" "XX", "HA" "CK")) + r")\b")
 CLASS = re.compile(r"^(?:class|struct) (?:\w+ )*\w+(?: final)?(?: *:[^:].*)?(?: *\{.*)?$")
@@ -36,8 +42,58 @@ def licensed(name, text):
 
 def short(name, text):
     lines = text.count("\n")
-    if name.endswith(".cpp") and lines > LONGEST_SOURCE:
+    if SOURCE.search(name) and lines > LONGEST_SOURCE:
         yield lines, f"{lines} lines are more than {LONGEST_SOURCE}: split the file by subject"
+
+
+def bodies(text):
+    """The functions of a C++ source as clang-format lays them out: the first line of the head, the
+    lines of the body. A brace alone on its line opens one unless a type or a namespace is before it."""
+    lines = text.splitlines()
+    for start, line in enumerate(lines):
+        if line.strip() != "{":
+            continue
+        indent = line[:-1]
+        head = start - 1
+        while head > 0 and (not lines[head].startswith(indent)
+                            or lines[head][len(indent):len(indent) + 1] in ("", " ", "#")):
+            head -= 1
+        if head < 0 or TYPE.match(lines[head].strip()) or lines[head].rstrip().endswith((";", "}")):
+            continue
+        end = next((i for i in range(start + 1, len(lines)) if lines[i].startswith(indent + "}")),
+                   len(lines))
+        yield head, lines[head:start], lines[start + 1:end]
+
+
+def brief(name, text):
+    """No function is longer than can be seen at once, but for a table that says so."""
+    if name.endswith((".cpp", ".h")):
+        for head, title, body in bodies(text):
+            if len(body) <= LONGEST_FUNCTION:
+                continue
+            if not any(TABLE in line for line in title):
+                yield head + 1, f"a function of {len(body)} lines"
+            elif not is_table(body):
+                yield head + 1, "what is declared to be a table holds more than that"
+    elif name.endswith(".py"):
+        for node in ast.walk(ast.parse(text)):
+            if isinstance(node, ast.FunctionDef):
+                lines = node.end_lineno - node.lineno
+                if lines > LONGEST_FUNCTION:
+                    yield node.lineno, f"a function of {lines} lines"
+
+
+def is_table(body):
+    """One list, with no entry and nothing around it longer than a function may be."""
+    begin = next((i for i, line in enumerate(body) if re.search(r"(?:\breturn|=|\w) ?\{$", line)
+                  and not TYPE.search(line)), len(body))
+    end = next((i for i in range(begin, len(body)) if re.match(r"    \S*\};", body[i])), begin)
+    entries, length = [], 0
+    for line in body[begin + 1:end]:
+        length = 1 if line.startswith(" " * 8) and line[8:9] not in (" ", "") else length + 1
+        entries.append(length)
+    around = len(body) - (end - begin)
+    return begin < end and max(entries + [around]) <= LONGEST_FUNCTION
 
 
 def finished(_name, text):
@@ -68,7 +124,7 @@ def introduced(name, text):
             before = line
 
 
-RULES = (licensed, short, finished, tidy, introduced)
+RULES = (licensed, short, brief, finished, tidy, introduced)
 
 
 def unregistered(root, texts):

@@ -66,15 +66,6 @@ void EditorTest::call(const char *slot)
     QVERIFY(QMetaObject::invokeMethod(m_editor.get(), slot, Qt::DirectConnection));
 }
 
-QStringList EditorTest::commandsOf(const std::function<void()> &action)
-{
-    log().clear();
-    action();
-    QStringList commands = log().commands();
-    log().clear();
-    return commands;
-}
-
 void EditorTest::click(QRPC::NodeId node, Qt::KeyboardModifiers modifiers)
 {
     const QPoint place = tree().visualRect(index(node)).center();

@@ -52,7 +52,7 @@ protected:
     void call(const char *slot);
 
     /// The commands and writes that `action` sent to the service.
-    QStringList commandsOf(const std::function<void()> &action);
+    QStringList commandsOf(const std::function<void()> &action) { return log().commandsOf(action); }
 
     /// Clicks into the row of a node.
     void click(QRPC::NodeId node, Qt::KeyboardModifiers modifiers = Qt::NoModifier);

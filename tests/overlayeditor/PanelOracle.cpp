@@ -3,17 +3,12 @@
 
 #include "tests/overlayeditor/PanelOracle.h"
 
+#include "kit/FormMember.h"
+
 #include <algorithm>
 #include <cmath>
 
 namespace {
-
-const char *const s_inputs[] = {
-    "_image_radio_button",  "_text_radio_button",     "_text_edit",
-    "_font_combo_box",      "_color_slider",          "_background_slider",
-    "_transparency_slider", "_absolute_radio_button", "_relative_radio_button",
-    "_size_slider",         "_position_combo_box",    "_offset_x_spin_box",
-    "_offset_y_spin_box"};
 
 const char *const s_editorsOfOneType[] = {"_text_edit",           "_font_combo_box",
                                           "_color_slider",        "_background_slider",
@@ -53,7 +48,7 @@ int typeOf(const RecordingService::Node &node)
 PanelOracle::PanelOracle(const RecordingService &service) : m_service(service)
 {
     m_controls["_overlay_name"] = {};
-    for (const char *input : s_inputs)
+    for (const char *input : FormMember::inputs())
         m_controls[input] = {};
     for (const char *label : s_shownForTexts)
         m_controls[label] = {};
@@ -64,7 +59,7 @@ PanelOracle::PanelOracle(const RecordingService &service) : m_service(service)
 void PanelOracle::refreshAll(const QRPC::NodeList &selection)
 {
     const bool isShown = !selection.isEmpty() && areOverlays(selection);
-    for (const char *input : s_inputs)
+    for (const char *input : FormMember::inputs())
         m_controls[input].enabled = isShown;
     m_controls["_overlay_name"].enabled = !selection.isEmpty();
     QStringList refreshed{"name"};

@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "kit/FormMember.h"
+#include "kit/MarkingTranslator.h"
 #include "overlayeditor/kxOverlayEditorGUIW.h"
 #include "tests/support/KxTest.h"
-
-#include <QTranslator>
 
 namespace {
 
@@ -103,19 +102,6 @@ QVector<int> cellOf(const QObject *object, const QList<QGridLayout *> &grids)
     }
     return {};
 }
-
-/// Answers for one context only and marks what it translated.
-class MarkingTranslator : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-
-    QString translate(const char *context, const char *text, const char *, int) const override
-    {
-        return qstrcmp(context, "kxOverlayEditorGUI") == 0 ? QLatin1Char('*') + QString(text)
-                                                           : QString();
-    }
-};
 
 QString captionOf(const QWidget *frame)
 {
@@ -325,10 +311,9 @@ void tst_kxOverlayEditorForm::shouldKeepTheNameOfTheWindow()
 void tst_kxOverlayEditorForm::shouldTranslateInItsOwnContext()
 {
     m_window->setToolTip("old");
-    MarkingTranslator translator;
-    QCoreApplication::installTranslator(&translator);
+    auto translator = std::make_unique<MarkingTranslator>("kxOverlayEditorGUI");
     m_form->retranslateUi(m_window.get());
-    QCoreApplication::removeTranslator(&translator);
+    translator.reset();
     QCOMPARE(m_window->windowTitle(), QString("*Overlay Editor"));
     QCOMPARE(m_window->toolTip(), QString());
     QCOMPARE(captionOf(m_form->_property_frame), QString("*Properties"));

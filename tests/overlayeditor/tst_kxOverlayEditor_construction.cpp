@@ -3,43 +3,31 @@
 
 #include "host/QKXToolBar.h"
 #include "host/kxShortcut.h"
+#include "kit/MarkingTranslator.h"
 #include "tests/overlayeditor/EditorTest.h"
 
 #include <QAction>
 #include <QButtonGroup>
 #include <QMenu>
-#include <QScopeGuard>
 #include <QTranslator>
 
 namespace {
 
-/// Answers for the editor's context, marking what it translated, and for one key of the toolkit.
-class MarkingTranslator : public QTranslator
+/// The toolkit's own translation of one key.
+class KeyTranslator : public QTranslator
 {
 public:
+    KeyTranslator() { QCoreApplication::installTranslator(this); }
+    ~KeyTranslator() override { QCoreApplication::removeTranslator(this); }
+    Q_DISABLE_COPY(KeyTranslator)
+
     bool isEmpty() const override { return false; }
 
     QString translate(const char *context, const char *text, const char *, int) const override
     {
-        if (qstrcmp(context, "QShortcut") == 0 && qstrcmp(text, "Ctrl") == 0)
-            return "Strg";
-        return qstrcmp(context, "kxOverlayEditor") == 0 ? QLatin1Char('*') + QString(text)
-                                                        : QString();
+        const bool isKey = qstrcmp(context, "QShortcut") == 0 && qstrcmp(text, "Ctrl") == 0;
+        return isKey ? QStringLiteral("Strg") : QString();
     }
-};
-
-/// Notes the objects that are enabled or disabled, in order.
-class EnablingProbe : public QObject
-{
-public:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() == QEvent::EnabledChange)
-            objects.append(watched->objectName());
-        return false;
-    }
-
-    QStringList objects;
 };
 
 bool isMarked(const QString &text)
@@ -62,7 +50,6 @@ private Q_SLOTS:
     void shouldRegisterItsKeysBehindItsSizes();
     void shouldRefreshThePanelLast();
     void shouldLineUpTheLabelsOfBothFrames();
-    void shouldEnableItsInputsInOrder();
     void shouldTranslateWhatTheUserSees();
 
 private:
@@ -168,30 +155,10 @@ void tst_kxOverlayEditor_construction::shouldLineUpTheLabelsOfBothFrames()
     QCOMPARE(window().gridLayout_4->columnMinimumWidth(0), width);
 }
 
-void tst_kxOverlayEditor_construction::shouldEnableItsInputsInOrder()
-{
-    openEditor();
-    EnablingProbe probe;
-    const QList<QWidget *> widgets = window().findChildren<QWidget *>();
-    for (QWidget *widget : widgets) {
-        if (widget->objectName().startsWith('_'))
-            widget->installEventFilter(&probe);
-    }
-    const QStringList wanted{
-        "_image_radio_button",  "_text_radio_button",     "_text_edit",
-        "_font_combo_box",      "_color_slider",          "_background_slider",
-        "_transparency_slider", "_absolute_radio_button", "_relative_radio_button",
-        "_size_slider",         "_position_combo_box",    "_offset_x_spin_box",
-        "_offset_y_spin_box"};
-    editor().setInputEnabled(true);
-    QCOMPARE(probe.objects, wanted);
-}
-
 void tst_kxOverlayEditor_construction::shouldTranslateWhatTheUserSees()
 {
-    MarkingTranslator translator;
-    QCoreApplication::installTranslator(&translator);
-    const auto remove = qScopeGuard([&] { QCoreApplication::removeTranslator(&translator); });
+    const MarkingTranslator translator("kxOverlayEditor");
+    const KeyTranslator keyTranslator;
     openEditor();
 
     const HostFixture::Registration &module = host().registrations().first();

@@ -2,29 +2,17 @@
 // SPDX-License-Identifier: MIT
 
 #include "host/kxIconManager.h"
+#include "kit/FormMember.h"
+#include "kit/MarkingTranslator.h"
 #include "tests/overlayeditor/PanelTest.h"
 
 #include <QButtonGroup>
 #include <QSlider>
 #include <QToolButton>
-#include <QTranslator>
 
 namespace {
 
 using Form = kxOverlayEditorGUIW;
-
-/// Answers for one context only and marks what it translated.
-class MarkingTranslator : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-
-    QString translate(const char *context, const char *text, const char *, int) const override
-    {
-        return qstrcmp(context, "kxOverlayEditor") == 0 ? QLatin1Char('*') + QString(text)
-                                                        : QString();
-    }
-};
 
 /// Notes the order in which widgets become enabled or disabled.
 class EnabledProbe : public QObject
@@ -107,10 +95,8 @@ void tst_kxOverlayEditor_panel::shouldOfferNineAnchorsInOrder()
 
 void tst_kxOverlayEditor_panel::shouldTranslateTheAnchors()
 {
-    MarkingTranslator translator;
-    QVERIFY(QCoreApplication::installTranslator(&translator));
+    const MarkingTranslator translator("kxOverlayEditor");
     openEditor();
-    QCoreApplication::removeTranslator(&translator);
     QCOMPARE(window()._position_combo_box->itemText(0), QString("*Left"));
     QCOMPARE(window()._position_combo_box->itemText(8), QString("*Bottom Right"));
 }
@@ -232,12 +218,8 @@ void tst_kxOverlayEditor_panel::shouldStartDisabled()
 void tst_kxOverlayEditor_panel::shouldEnableItsInputsInOrder()
 {
     openEditor("a2");
-    const QStringList names{
-        "_image_radio_button",  "_text_radio_button",     "_text_edit",
-        "_font_combo_box",      "_color_slider",          "_background_slider",
-        "_transparency_slider", "_absolute_radio_button", "_relative_radio_button",
-        "_size_slider",         "_position_combo_box",    "_offset_x_spin_box",
-        "_offset_y_spin_box"};
+    const auto &inputs = FormMember::inputs();
+    const QStringList wanted(inputs.begin(), inputs.end());
     EnabledProbe probe;
     const auto widgets =
         window()._property_scrollArea->findChildren<QWidget *>(QRegularExpression("^_[a-z]"));
@@ -246,7 +228,7 @@ void tst_kxOverlayEditor_panel::shouldEnableItsInputsInOrder()
     for (const bool enabled : {true, false}) {
         probe.names.clear();
         editor().setInputEnabled(enabled);
-        QCOMPARE(probe.names, names);
+        QCOMPARE(probe.names, wanted);
     }
 }
 

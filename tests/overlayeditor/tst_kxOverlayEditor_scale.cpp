@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "host/kxKernelServiceFactory.h"
+#include "kit/widgets.h"
 #include "overlayeditor/model/kxDropTrace.h"
 #include "tests/overlayeditor/CountedService.h"
 #include "tests/overlayeditor/EditorTest.h"
@@ -108,7 +109,6 @@ private:
     template<Step First, Step... Rest>
     void inTurn();
     QLineEdit &searchLine() { return static_cast<QLineEdit &>(searchBox()); }
-    static void settle();
 
     std::unique_ptr<WorkCounter> m_counter;
     std::unique_ptr<CountedService> m_service;
@@ -129,14 +129,6 @@ void tst_kxOverlayEditor_scale::cleanup()
     EditorTest::cleanup();
     m_service.reset();
     m_counter.reset();
-}
-
-void tst_kxOverlayEditor_scale::settle()
-{
-    for (int i = 0; i < 10; ++i) {
-        QCoreApplication::sendPostedEvents();
-        QCoreApplication::processEvents();
-    }
 }
 
 void tst_kxOverlayEditor_scale::open()
@@ -208,7 +200,7 @@ template<tst_kxOverlayEditor_scale::Step First, tst_kxOverlayEditor_scale::Step.
 void tst_kxOverlayEditor_scale::inTurn()
 {
     (this->*First)();
-    ((settle(), (this->*Rest)()), ...);
+    ((widgets::settle(), (this->*Rest)()), ...);
 }
 
 /// What each new row asks for, made from the node alone: its kind once for the flags and once for the
@@ -355,7 +347,7 @@ void tst_kxOverlayEditor_scale::shouldCostWhatItsSizeAsksFor()
     openEditor();
     showWindow();
     (this->*measured.prepare)();
-    settle();
+    widgets::settle();
 
     m_counter->watch(m_service.get(), "service");
     m_counter->watch(&model(), "model");
@@ -363,7 +355,7 @@ void tst_kxOverlayEditor_scale::shouldCostWhatItsSizeAsksFor()
     m_counter->watchRows(&model());
     m_counter->clear();
     (this->*measured.run)();
-    settle();
+    widgets::settle();
     const QString difference =
         differenceTo(expected(grouped ? measured.grouped : measured.flat, m_size));
     QVERIFY2(difference.isEmpty(), qPrintable(difference));

@@ -81,7 +81,20 @@ private Q_SLOTS:
     void shouldEnableInputsForOverlaysOnly();
     void shouldKeepCursorAndHistoryOfAnUnchangedText();
     void shouldHandTheMarkingOnInsideTheImageControl();
+
+private:
+    void selectTwoAlike(const PanelProperty &shown);
 };
+
+/// Opens two overlays that show the property, with its second value, and selects them.
+void tst_kxOverlayEditor_sync::selectTwoAlike(const PanelProperty &shown)
+{
+    openEditor("a2 b3");
+    suit(shown);
+    for (const QRPC::NodeId id : {2, 3})
+        shown.put(&node(id), 1);
+    select({2, 3});
+}
 
 void tst_kxOverlayEditor_sync::shouldShowTheValueThatAllShare()
 {
@@ -106,11 +119,7 @@ void tst_kxOverlayEditor_sync::shouldMarkDifferentValuesAndKeepWhatItShows()
 {
     QFETCH(int, row);
     const PanelProperty &shown = property(row);
-    openEditor("a2 b3");
-    suit(shown);
-    for (const QRPC::NodeId id : {2, 3})
-        shown.put(&node(id), 1);
-    select({2, 3});
+    selectTwoAlike(shown);
     QCOMPARE(shown.shown(window()), QString(shown.values[1]));
     for (const QRPC::NodeId other : {2, 3}) {
         shown.put(&node(2), 1);
@@ -237,11 +246,7 @@ void tst_kxOverlayEditor_sync::shouldShowPropertiesOfOneTypeForThatTypeOnly()
 {
     QFETCH(int, row);
     const PanelProperty &shown = property(row);
-    openEditor("a2 b3");
-    suit(shown);
-    for (const QRPC::NodeId id : {2, 3})
-        shown.put(&node(id), 1);
-    select({2, 3});
+    selectTwoAlike(shown);
     node(3).type = 1 - node(2).type;
     for (const QRPC::NodeId id : {2, 3})
         shown.put(&node(id), 0);

@@ -32,10 +32,22 @@ private Q_SLOTS:
     void shouldKeepTheColorDialogOpen();
 
 private:
+    /// A row of the tests of numbers.
+    struct TypedNumber
+    {
+        QString field;
+        QString call;
+        QString number;
+        Qt::Key key; ///< ends the typing
+
+        QStringList calls() const { return {call + " [2,3] " + number}; }
+    };
+
+    static TypedNumber typedNumber();
     void open();
     void echo();
     void typeAcrossEchoes(const QString &text);
-    QDoubleSpinBox &numberField(const QString &name);
+    QDoubleSpinBox &focusedField(const QString &name);
     void checkList(QComboBox *box, const QString &chosen, const QString &call);
 };
 
@@ -70,9 +82,23 @@ void tst_kxOverlayEditor_typing::typeAcrossEchoes(const QString &text)
     }
 }
 
-QDoubleSpinBox &tst_kxOverlayEditor_typing::numberField(const QString &name)
+/// The field has the focus, and all of it is selected.
+QDoubleSpinBox &tst_kxOverlayEditor_typing::focusedField(const QString &name)
 {
-    return name == "Size" ? sizeField() : *window().findChild<QDoubleSpinBox *>(name);
+    QDoubleSpinBox &box =
+        name == "Size" ? sizeField() : *window().findChild<QDoubleSpinBox *>(name);
+    focus(box);
+    box.selectAll();
+    return box;
+}
+
+tst_kxOverlayEditor_typing::TypedNumber tst_kxOverlayEditor_typing::typedNumber()
+{
+    QFETCH(QString, field);
+    QFETCH(QString, call);
+    QFETCH(QString, number);
+    QFETCH(int, key);
+    return {field, call, number, Qt::Key(key)};
 }
 
 void tst_kxOverlayEditor_typing::shouldSendATypedNumberOnce_data()
@@ -97,56 +123,41 @@ void tst_kxOverlayEditor_typing::shouldSendATypedNumberOnce_data()
 
 void tst_kxOverlayEditor_typing::shouldSendATypedNumberOnce()
 {
-    QFETCH(QString, field);
-    QFETCH(QString, call);
-    QFETCH(QString, number);
-    QFETCH(int, key);
+    const TypedNumber typed = typedNumber();
     open();
-    QDoubleSpinBox &box = numberField(field);
-    focus(box);
-    box.selectAll();
+    QDoubleSpinBox &box = focusedField(typed.field);
     QCOMPARE(commandsOf([&] {
-                 type(number);
-                 press(Qt::Key(key));
+                 type(typed.number);
+                 press(typed.key);
              }),
-             QStringList(call + " [2,3] " + number));
-    QCOMPARE(box.text(), number + box.suffix());
+             typed.calls());
+    QCOMPARE(box.text(), typed.number + box.suffix());
     select({4});
     select({3});
-    QCOMPARE(box.text(), number + box.suffix());
+    QCOMPARE(box.text(), typed.number + box.suffix());
 }
 
 void tst_kxOverlayEditor_typing::shouldKeepATypedNumberAcrossEchoes()
 {
-    QFETCH(QString, field);
-    QFETCH(QString, call);
-    QFETCH(QString, number);
-    QFETCH(int, key);
+    const TypedNumber typed = typedNumber();
     open();
-    QDoubleSpinBox &box = numberField(field);
-    focus(box);
-    box.selectAll();
-    typeAcrossEchoes(number);
-    QCOMPARE(box.text(), number + box.suffix());
-    QCOMPARE(commandsOf([&] { press(Qt::Key(key)); }), QStringList(call + " [2,3] " + number));
+    QDoubleSpinBox &box = focusedField(typed.field);
+    typeAcrossEchoes(typed.number);
+    QCOMPARE(box.text(), typed.number + box.suffix());
+    QCOMPARE(commandsOf([&] { press(typed.key); }), typed.calls());
 }
 
 void tst_kxOverlayEditor_typing::shouldSendATypedNumberToDifferentOnes()
 {
-    QFETCH(QString, field);
-    QFETCH(QString, call);
-    QFETCH(QString, number);
-    QFETCH(int, key);
+    const TypedNumber typed = typedNumber();
     open();
     node(3).offset = {77.0, 78.0};
     node(3).size = 79.0F;
-    tst_kxOverlayEditor_typing::call("selectionChanged");
-    QDoubleSpinBox &box = numberField(field);
-    focus(box);
-    box.selectAll();
-    typeAcrossEchoes(number);
-    QCOMPARE(commandsOf([&] { press(Qt::Key(key)); }), QStringList(call + " [2,3] " + number));
-    QCOMPARE(box.text(), number + box.suffix());
+    call("selectionChanged");
+    QDoubleSpinBox &box = focusedField(typed.field);
+    typeAcrossEchoes(typed.number);
+    QCOMPARE(commandsOf([&] { press(typed.key); }), typed.calls());
+    QCOMPARE(box.text(), typed.number + box.suffix());
     QVERIFY(!isMarked(box));
 }
 

@@ -4,6 +4,7 @@
 #include "tests/pictures/PictureStage.h"
 
 #include "host/QKXSearchBox.h"
+#include "kit/widgets.h"
 #include "tests/support/KxTest.h"
 #include "tests/support/RealInput.h"
 #include "viewer/app/ModulePanels.h"
@@ -263,11 +264,7 @@ void PictureStage::select(const QStringList &names)
 
 QStringList PictureStage::selected() const
 {
-    QStringList names;
-    const QModelIndexList indexes = m_tree->selectionModel()->selectedIndexes();
-    for (const QModelIndex &index : indexes)
-        names.append(index.data().toString());
-    return names;
+    return widgets::selectedNames(*m_tree);
 }
 
 QRPC::NodeId PictureStage::node(const QString &name)

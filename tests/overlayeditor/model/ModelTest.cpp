@@ -18,11 +18,16 @@ void ModelTest::fill(const QString &line)
     log().clear();
 }
 
-QStringList ModelTest::callsOf(const std::function<void()> &action)
+void ModelTest::eraseInsideTheNextCall(QRPC::NodeId id, bool asReset)
 {
-    log().clear();
-    action();
-    return log().take();
+    service().setHook([this, id, asReset](const QString &) {
+        service().setHook({});
+        service().erase({id});
+        if (asReset)
+            Q_EMIT service().modelReset();
+        else
+            Q_EMIT service().nodesRemoved({id});
+    });
 }
 
 void ModelTest::dropModel()

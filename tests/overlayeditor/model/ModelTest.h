@@ -53,7 +53,10 @@ protected:
     QString shown() const { return dumpTree(*m_model); }
 
     /// What `action` made the model ask of the service.
-    QStringList callsOf(const std::function<void()> &action);
+    QStringList callsOf(const std::function<void()> &action) { return log().callsOf(action); }
+
+    /// The next command has the service lose a node while it runs, announced as a reset or a removal.
+    void eraseInsideTheNextCall(QRPC::NodeId id, bool asReset);
 
     /// Large trees go without the tester, which walks the tree at each change.
     void dropTester() { m_tester.reset(); }

@@ -378,14 +378,7 @@ void tst_kxOverlayQtModel_drop::shouldSurviveATargetThatDisappearsInsideItsMove(
     QFETCH(bool, reset);
     fill("a2 g3(b4) c5");
     const auto data = drag({2, 5});
-    service().setHook([&](const QString &) {
-        service().setHook({});
-        service().erase({3});
-        if (reset)
-            Q_EMIT service().modelReset();
-        else
-            Q_EMIT service().nodesRemoved({3});
-    });
+    eraseInsideTheNextCall(3, reset);
     const kxDropTrace trace(&model());
     QVERIFY(!model().dropMimeData(data.get(), Qt::MoveAction, -1, -1, index(3)));
     model().settle(trace); // the dragged nodes are gone with the target

@@ -5,9 +5,9 @@
 // does and when.
 
 #include "host/initPlugin.h"
-#include "host/kxKernelServiceFactory.h"
 #include "host/kxMainWindowService.h"
 #include "host/kxOverlayService.h"
+#include "overlayeditor/kxServices.h"
 
 #include <QCoreApplication>
 #include <QIcon>
@@ -15,12 +15,6 @@
 #include <QWidget>
 
 namespace {
-
-template<class T>
-T *service()
-{
-    return kxKernelServiceFactory::the()->getService<T>();
-}
 
 void note(const char *event)
 {
@@ -33,13 +27,14 @@ void note(const char *event)
 void initPlugin()
 {
     note("initPlugin");
-    auto *windows = service<kxMainWindowService>();
+    auto *windows = kxService<kxMainWindowService>();
     auto *window = new QWidget(windows->getMainWindow());
     windows->registerModule("Journal", "Scene", window, QString(), QIcon(), "Journal", 0);
-    QObject::connect(service<kxOverlayService>(), &kxOverlayService::modelReset, window,
+    QObject::connect(kxService<kxOverlayService>(), &kxOverlayService::modelReset, window,
                      [] { note("modelReset"); });
-    QObject::connect(service<kxBaseService>(), &kxBaseService::init, window, [] { note("init"); });
+    QObject::connect(kxService<kxBaseService>(), &kxBaseService::init, window,
+                     [] { note("init"); });
     // What goes with the window still finds the services.
     QObject::connect(window, &QObject::destroyed,
-                     [] { note(service<kxOverlayService>() ? "gone" : "gone too late"); });
+                     [] { note(kxService<kxOverlayService>() ? "gone" : "gone too late"); });
 }

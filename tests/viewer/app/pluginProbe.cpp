@@ -6,20 +6,14 @@
 
 #include "host/initPlugin.h"
 #include "host/kxControllerService.h"
-#include "host/kxKernelServiceFactory.h"
 #include "host/kxOverlayService.h"
+#include "overlayeditor/kxServices.h"
 
 #include <QApplication>
 
 #include <cstdio>
 
 namespace {
-
-template<class T>
-T *service()
-{
-    return kxKernelServiceFactory::the()->getService<T>();
-}
 
 // Listeners are counted by a protected function of every object.
 struct Countable : kxOverlayService
@@ -31,8 +25,8 @@ void report()
 {
     const char *signal = SIGNAL(nodesMoved(QRPC::NodeList, QRPC::NodeList, QRPC::NodeList));
     std::fprintf(stderr, "headless %d, trees %d, windows %d\n",
-                 service<kxControllerService>()->isHeadless(),
-                 (service<kxOverlayService>()->*Countable::count)(signal),
+                 kxService<kxControllerService>()->isHeadless(),
+                 (kxService<kxOverlayService>()->*Countable::count)(signal),
                  QApplication::topLevelWidgets().size());
 }
 
@@ -40,5 +34,5 @@ void report()
 
 void initPlugin()
 {
-    QObject::connect(service<kxBaseService>(), &kxBaseService::init, [] { report(); });
+    QObject::connect(kxService<kxBaseService>(), &kxBaseService::init, [] { report(); });
 }

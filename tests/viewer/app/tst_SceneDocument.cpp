@@ -4,6 +4,7 @@
 #include "viewer/app/SceneDocument.h"
 
 #include "tests/support/KxTest.h"
+#include "tests/viewer/app/Answers.h"
 #include "viewer/app/FileActions.h"
 
 #include <QAction>
@@ -16,37 +17,6 @@
 #include <memory>
 
 using namespace viewer;
-using Answer = FileQuestions::Answer;
-Q_DECLARE_METATYPE(viewer::FileQuestions::Answer)
-
-namespace {
-
-/// Answers as it is told, and counts the questions.
-class Answers : public FileQuestions
-{
-public:
-    Answers() : FileQuestions(nullptr) {}
-
-    Answer aboutChanges(const QString &name) override
-    {
-        asked.append(name);
-        return answer;
-    }
-    bool mayOverwrite(const QString &name) override
-    {
-        overwritten.append(name);
-        return answer == Answer::Save;
-    }
-    QString fileToOpen(const QString &) override { return file; }
-    QString fileToSave(const QString &) override { return file; }
-
-    Answer answer = Answer::Cancel;
-    QString file;
-    QStringList asked;
-    QStringList overwritten;
-};
-
-} // namespace
 
 class tst_SceneDocument : public KxTest
 {

@@ -7,6 +7,7 @@
 #include "viewer/app/ViewerSession.h"
 
 #include "tests/support/KxTest.h"
+#include "tests/viewer/app/Answers.h"
 
 #include <QDockWidget>
 #include <QDropEvent>
@@ -20,29 +21,8 @@
 #include <functional>
 
 using namespace viewer;
-using Answer = FileQuestions::Answer;
-Q_DECLARE_METATYPE(viewer::FileQuestions::Answer)
 
 namespace {
-
-/// Answers as it is told, and counts the questions.
-class Answers : public FileQuestions
-{
-public:
-    Answers() : FileQuestions(nullptr) {}
-
-    Answer aboutChanges(const QString &name) override
-    {
-        asked.append(name);
-        return answer;
-    }
-    QString fileToOpen(const QString &) override { return file; }
-    QString fileToSave(const QString &) override { return file; }
-
-    Answer answer = Answer::Cancel;
-    QString file;
-    QStringList asked;
-};
 
 using Way = std::function<void(ViewerSession *)>;
 

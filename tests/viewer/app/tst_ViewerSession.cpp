@@ -55,6 +55,7 @@ private:
     CommandLine line(const QStringList &arguments) const;
     QString write(const QString &name, const QByteArray &content) const;
     QString goodScene() const;
+    bool paintFile(const QColor &color) const;
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };
@@ -120,6 +121,14 @@ QString tst_ViewerSession::write(const QString &name, const QByteArray &content)
     return file.open(QIODevice::WriteOnly) && file.write(content) == content.size()
                ? file.fileName()
                : QString();
+}
+
+/// Writes the image file colour.png, all in one colour.
+bool tst_ViewerSession::paintFile(const QColor &color) const
+{
+    QImage image(8, 8, QImage::Format_RGB32);
+    image.fill(color);
+    return image.save(m_folder->filePath("colour.png"));
 }
 
 QString tst_ViewerSession::goodScene() const
@@ -219,15 +228,11 @@ void tst_ViewerSession::shouldDrawTheSamePixelsAsAnExport()
 
 void tst_ViewerSession::shouldReadAnImageAnewWhenItsPathIsSet()
 {
-    const QString path = m_folder->filePath("colour.png");
-    QImage file(8, 8, QImage::Format_RGB32);
-    file.fill(Qt::red);
-    QVERIFY(file.save(path));
+    QVERIFY(paintFile(Qt::red));
     ViewerSession session(line({write("image.json", scene(imageOverlay("colour.png")))}), nullptr);
     session.start();
     TRY_COMPARE(middleOf(session), QColor(Qt::red));
-    file.fill(Qt::blue);
-    QVERIFY(file.save(path));
+    QVERIFY(paintFile(Qt::blue));
     OverlayService *overlays = session.overlays();
     const QRPC::NodeId node = overlays->getChild(overlays->getRootNode(), 0);
     overlays->setImage({node}, overlays->getImage(node));
@@ -237,10 +242,7 @@ void tst_ViewerSession::shouldReadAnImageAnewWhenItsPathIsSet()
 
 void tst_ViewerSession::shouldShowAnImageThatChanges()
 {
-    const QString path = m_folder->filePath("colour.png");
-    QImage file(8, 8, QImage::Format_RGB32);
-    file.fill(Qt::red);
-    QVERIFY(file.save(path));
+    QVERIFY(paintFile(Qt::red));
     ViewerSession session(line({write("image.json", scene(imageOverlay("colour.png")))}), nullptr);
     session.start();
     auto *layer = session.window()->findChild<OverlayLayer *>();
@@ -248,17 +250,14 @@ void tst_ViewerSession::shouldShowAnImageThatChanges()
     QCoreApplication::processEvents();
     PaintCount paints;
     layer->installEventFilter(&paints);
-    file.fill(Qt::blue);
-    QVERIFY(file.save(path));
+    QVERIFY(paintFile(Qt::blue));
     TRY_COMPARE(paints.count > 0, true); // nobody but the picture asks for it
     TRY_COMPARE(middleOf(session), QColor(Qt::blue));
 }
 
 void tst_ViewerSession::shouldDrawAnImageOfTheScenesFolder()
 {
-    QImage file(8, 8, QImage::Format_RGB32);
-    file.fill(Qt::red);
-    QVERIFY(file.save(m_folder->filePath("colour.png")));
+    QVERIFY(paintFile(Qt::red));
     ViewerSession session(line({write("image.json", scene(imageOverlay("")))}), nullptr);
     session.start();
     QVERIFY(middleOf(session) != QColor(Qt::red));
@@ -269,16 +268,12 @@ void tst_ViewerSession::shouldDrawAnImageOfTheScenesFolder()
 
 void tst_ViewerSession::shouldReadImagesAnewWithEachScene()
 {
-    const QString path = m_folder->filePath("colour.png");
-    QImage file(8, 8, QImage::Format_RGB32);
-    file.fill(Qt::red);
-    QVERIFY(file.save(path));
+    QVERIFY(paintFile(Qt::red));
     const QString sceneFile = write("image.json", scene(imageOverlay("colour.png")));
     ViewerSession session(line({sceneFile}), nullptr);
     session.start();
     TRY_COMPARE(middleOf(session), QColor(Qt::red));
-    file.fill(Qt::blue);
-    QVERIFY(file.save(path));
+    QVERIFY(paintFile(Qt::blue));
     QVERIFY(session.openScene(sceneFile));
     TRY_COMPARE(middleOf(session), QColor(Qt::blue));
 }

@@ -3,6 +3,9 @@
 
 #include "tests/viewer/scene/SceneText.h"
 
+#include "kit/nodeSignals.h"
+#include "viewer/scene/SceneWriter.h"
+
 #include <QRegularExpression>
 
 using QRPC::NodeId;
@@ -84,32 +87,20 @@ NodeList ids(const Scene &scene, const QString &names)
     return nodes;
 }
 
+QByteArray fileOf(const OverlayService &service)
+{
+    return viewer::SceneWriter::content(service.scene(), QStringLiteral("/tmp/scene.json"),
+                                        nullptr);
+}
+
 } // namespace scenetext
 
 SignalRecorder::SignalRecorder(OverlayService *service) : m_service(service)
 {
     using S = kxOverlayService;
-    using NodesSignal = void (S::*)(const NodeList &);
-    const QVector<QPair<QString, NodesSignal>> table{
-        {"nodesCreated", &S::nodesCreated},
-        {"nodesAdded", &S::nodesAdded},
-        {"nodesRemoved", &S::nodesRemoved},
-        {"overlayTypeChanged", &S::overlayTypeChanged},
-        {"nameChanged", &S::nameChanged},
-        {"textChanged", &S::textChanged},
-        {"fontChanged", &S::fontChanged},
-        {"fontColorChanged", &S::fontColorChanged},
-        {"backgroundColorChanged", &S::backgroundColorChanged},
-        {"backgroundTransparencyChanged", &S::backgroundTransparencyChanged},
-        {"imageChanged", &S::imageChanged},
-        {"sizeTypeChanged", &S::sizeTypeChanged},
-        {"sizeChanged", &S::sizeChanged},
-        {"positionChanged", &S::positionChanged},
-        {"offsetChanged", &S::offsetChanged},
-        {"enabledStateChanged", &S::enabledStateChanged},
-    };
+    const auto table = nodeSignals();
     for (const auto &row : table) {
-        const QString name = row.first;
+        const QString name = QString::fromLatin1(row.first);
         connect(service, row.second, this,
                 [this, name](const NodeList &nodes) { note(name, nodes); });
     }

@@ -15,6 +15,9 @@ namespace scenetext {
 viewer::Scene build(const QString &text);
 QString dump(const viewer::Scene &scene);
 
+/// What a file of the scene would hold.
+QByteArray fileOf(const viewer::OverlayService &service);
+
 /// The node with that name, 0 when there is none. "root" is the root.
 QRPC::NodeId id(const viewer::Scene &scene, const QString &name);
 

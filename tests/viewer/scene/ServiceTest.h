@@ -30,6 +30,17 @@ protected:
     const viewer::Scene &scene() const { return m_service->scene(); }
     viewer::OverlayService &service() { return *m_service; }
 
+    const QUndoStack &stack() { return *service().history().stack(); }
+
+    /// What the steps of the history are called, the oldest first.
+    QStringList stepNames()
+    {
+        QStringList names;
+        for (int i = 0; i < stack().count(); ++i)
+            names.append(stack().text(i));
+        return names;
+    }
+
     bool sawSignals() const { return !m_recorder->isEmpty(); }
 
     /// The signals since the last call, one line each, and faults found in them.

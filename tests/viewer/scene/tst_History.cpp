@@ -40,19 +40,7 @@ private Q_SLOTS:
     void shouldMarkTheSavedState();
     void shouldForgetTheStepsOfAnotherScene();
     void shouldBearSlotsThatChangeTheSceneDuringUndo();
-
-private:
-    const QUndoStack &stack() { return *service().history().stack(); }
-    QStringList names();
 };
-
-QStringList tst_History::names()
-{
-    QStringList texts;
-    for (int i = 0; i < stack().count(); ++i)
-        texts.append(stack().text(i));
-    return texts;
-}
 
 namespace {
 
@@ -269,7 +257,7 @@ void tst_History::shouldNameTheStep()
     QFETCH(QString, name);
     open("a b c- g(d)");
     operate(service(), [this](const char *nodes) { return ids(nodes); });
-    QCOMPARE(names(), QStringList(name));
+    QCOMPARE(stepNames(), QStringList(name));
 }
 
 void tst_History::shouldShortenLongNames()
@@ -292,7 +280,7 @@ void tst_History::shouldMergeOneGesture()
     open("a b");
     for (const char *text : {"T", "Ti", "Title"})
         service().setText(ids("a b"), text);
-    QCOMPARE(names(), QStringList("Set text of 2 overlays"));
+    QCOMPARE(stepNames(), QStringList("Set text of 2 overlays"));
     service().undo();
     QCOMPARE(service().getText(id("a")), QString());
     service().redo();
@@ -341,7 +329,7 @@ void tst_History::shouldDropAGestureThatEndsWhereItBegan()
     const float before = service().getSize(id("a"));
     service().setSize(ids("a"), 10);
     service().setSize(ids("a"), before);
-    QCOMPARE(names(), QStringList("Set size of \"b\""));
+    QCOMPARE(stepNames(), QStringList("Set size of \"b\""));
     service().undo();
     QCOMPARE(service().getSize(id("b")), before);
 }
@@ -368,7 +356,7 @@ void tst_History::shouldKeepSwitchingApartThatIsNoToggle()
     QTimer::singleShot(0, &service(), [&turned] { turned = true; });
     QTRY_VERIFY(turned);
     service().setEnabled(ids("b"), true);
-    QCOMPARE(names().mid(3), QStringList({"Switch off \"c2\"", "Switch on \"b\""}));
+    QCOMPARE(stepNames().mid(3), QStringList({"Switch off \"c2\"", "Switch on \"b\""}));
 }
 
 void tst_History::shouldGroupInOneStep()

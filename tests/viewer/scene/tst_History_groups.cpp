@@ -20,19 +20,7 @@ private Q_SLOTS:
     void shouldLeaveNoStepOfAnEmptyGroupOfOperations();
     void shouldMakeOneStepOfALongMove();
     void shouldForgetAnOpenGroupWithItsScene();
-
-private:
-    const QUndoStack &stack() { return *service().history().stack(); }
-    QStringList names();
 };
-
-QStringList tst_History_groups::names()
-{
-    QStringList texts;
-    for (int i = 0; i < stack().count(); ++i)
-        texts.append(stack().text(i));
-    return texts;
-}
 
 void tst_History_groups::shouldMakeOneStepOfAGroupOfOperations()
 {
@@ -45,7 +33,7 @@ void tst_History_groups::shouldMakeOneStepOfAGroupOfOperations()
         service().moveNodes(ids("a"), service().createGroup(Scene::RootId), 0);
     }
     QCOMPARE(dump(), QString("b Group 1(a)"));
-    QCOMPARE(names(), QStringList("Arrange"));
+    QCOMPARE(stepNames(), QStringList("Arrange"));
     signalLines();
     service().undo();
     QCOMPARE(dump(), QString("g(a) b"));
@@ -89,7 +77,7 @@ void tst_History_groups::shouldTakeAGroupBack()
     QCOMPARE(dump(), QString("g(a) c"));
     QCOMPARE(signalLines(),
              QStringList({"nodesAdded g", "nodesMoved a / g / 0", "enabledStateChanged a"}));
-    QCOMPARE(names(), QStringList("Rename to \"c\""));
+    QCOMPARE(stepNames(), QStringList("Rename to \"c\""));
     service().undo();
     QCOMPARE(dump(), QString("g(a) b"));
 }
@@ -116,7 +104,7 @@ void tst_History_groups::shouldHaveAHistoryOfItsOwnInAGroup()
         QCOMPARE(service().getText(id("x")), QString());
     }
     QCOMPARE(dump(), QString("x before"));
-    QCOMPARE(names(), QStringList({"Rename to \"before\"", "Script"}));
+    QCOMPARE(stepNames(), QStringList({"Rename to \"before\"", "Script"}));
     service().undo();
     QCOMPARE(dump(), QString("a before"));
 }
@@ -152,7 +140,7 @@ void tst_History_groups::shouldMakeOneStepOfALongMove()
         for (int i = 1; i <= 50; ++i)
             service().setOffsets({{id("a"), QPointF(i, 0)}, {id("b"), QPointF(0, i)}});
     }
-    QCOMPARE(names(), QStringList("Move 2 overlays in the view"));
+    QCOMPARE(stepNames(), QStringList("Move 2 overlays in the view"));
     service().undo();
     QCOMPARE(service().getOffset(id("b")), QPointF());
     service().redo();

@@ -6,7 +6,7 @@
 #include "tests/support/KxTest.h"
 #include "tests/support/Seeds.h"
 #include "tests/viewer/scene/RandomEdits.h"
-#include "viewer/scene/SceneWriter.h"
+#include "tests/viewer/scene/SceneText.h"
 
 #include <QAbstractItemModelTester>
 
@@ -31,11 +31,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-QByteArray fileOf(const OverlayService &service)
-{
-    return SceneWriter::content(service.scene(), QStringLiteral("/tmp/scene.json"), nullptr);
-}
 
 /// The service where modules find it.
 class Registered
@@ -80,6 +75,38 @@ QStringList rowsOf(const Scene &scene, NodeId parent = Scene::RootId)
     return rows;
 }
 
+/// A service, the tree that follows it, and a user who does something else with each seed.
+class Sitting
+{
+public:
+    explicit Sitting(quint32 seed) : m_user(&m_service, seed) { m_service.setScene(Scene()); }
+
+    OverlayService &service() { return m_service; }
+    kxOverlayQtModel &model() { return m_model; }
+    void edit() { m_user.edit(); }
+
+    /// Goes back for 0, forth for 1, and edits for any other number.
+    void act(int choice)
+    {
+        if (choice == 0)
+            m_service.undo();
+        else if (choice == 1)
+            m_service.redo();
+        else
+            edit();
+    }
+
+    QByteArray file() const { return scenetext::fileOf(m_service); }
+    QStringList shownRows() const { return rowsOf(m_model); }
+    QStringList wantedRows() const { return rowsOf(m_service.scene()); }
+
+private:
+    OverlayService m_service;
+    Registered m_registered{&m_service};
+    kxOverlayQtModel m_model;
+    RandomEdits m_user;
+};
+
 } // namespace
 
 void tst_History_random::shouldBeFollowedByTheTree_data()
@@ -90,27 +117,17 @@ void tst_History_random::shouldBeFollowedByTheTree_data()
 void tst_History_random::shouldBeFollowedByTheTree()
 {
     QFETCH(quint32, seed);
-    OverlayService service;
-    const Registered registered(&service);
-    kxOverlayQtModel model;
-    const QAbstractItemModelTester tester(&model,
+    Sitting sitting(seed);
+    const QAbstractItemModelTester tester(&sitting.model(),
                                           QAbstractItemModelTester::FailureReportingMode::Warning);
-    service.setScene(Scene());
-    RandomEdits user(&service, seed);
     QRandomGenerator random(seed);
     for (int i = 0; i < 300; ++i) {
-        const auto choice = random.bounded(3);
-        if (choice == 0)
-            user.edit();
-        else if (choice == 1)
-            service.undo();
-        else
-            service.redo();
+        sitting.act(random.bounded(3));
         // Grouped and single edits go on for a while before they are taken back.
-        const StepGroup group(&service, QStringLiteral("several"));
+        const StepGroup group(&sitting.service(), QStringLiteral("several"));
         for (auto edits = random.bounded(8) == 0 ? random.bounded(6) : 0; edits > 0; --edits)
-            user.edit();
-        QCOMPARE(rowsOf(model), rowsOf(service.scene()));
+            sitting.edit();
+        QCOMPARE(sitting.shownRows(), sitting.wantedRows());
     }
 }
 
@@ -123,43 +140,32 @@ void tst_History_random::shouldBeFollowedThroughMixedSteps_data()
 void tst_History_random::shouldBeFollowedThroughMixedSteps()
 {
     QFETCH(quint32, seed);
-    OverlayService service;
-    const Registered registered(&service);
-    kxOverlayQtModel model;
-    service.setScene(Scene());
-    RandomEdits user(&service, seed);
+    Sitting sitting(seed);
     QRandomGenerator random(seed);
-    QVector<QByteArray> files{fileOf(service)};
+    QVector<QByteArray> files{sitting.file()};
     while (files.size() < 8) {
         std::optional<StepGroup> group;
-        group.emplace(&service, QStringLiteral("several"), History::Group::OwnHistory);
-        for (auto edits = random.bounded(60); edits > 0; --edits) {
-            const auto choice = random.bounded(10);
-            if (choice == 0)
-                service.undo();
-            else if (choice == 1)
-                service.redo();
-            else
-                user.edit();
-        }
+        group.emplace(&sitting.service(), QStringLiteral("several"), History::Group::OwnHistory);
+        for (auto edits = random.bounded(60); edits > 0; --edits)
+            sitting.act(random.bounded(10));
         if (random.bounded(4) == 0)
             group->rollBack();
         group.reset();
-        QCOMPARE(rowsOf(model), rowsOf(service.scene()));
-        if (service.history().stack()->count() == files.size() - 1)
-            QCOMPARE(fileOf(service), files.constLast());
+        QCOMPARE(sitting.shownRows(), sitting.wantedRows());
+        if (sitting.service().history().stack()->count() == files.size() - 1)
+            QCOMPARE(sitting.file(), files.constLast());
         else
-            files.append(fileOf(service));
+            files.append(sitting.file());
     }
     const auto comesTo = [&](int i) {
-        return fileOf(service) == files.at(i) && rowsOf(model) == rowsOf(service.scene());
+        return sitting.file() == files.at(i) && sitting.shownRows() == sitting.wantedRows();
     };
     for (int i = files.size() - 2; i >= 0; --i) {
-        service.undo();
+        sitting.service().undo();
         QVERIFY(comesTo(i));
     }
     for (int i = 1; i < files.size(); ++i) {
-        service.redo();
+        sitting.service().redo();
         QVERIFY(comesTo(i));
     }
 }
@@ -173,24 +179,15 @@ void tst_History_random::shouldBeFollowedWhenSlotsInterfere_data()
 void tst_History_random::shouldBeFollowedWhenSlotsInterfere()
 {
     QFETCH(quint32, seed);
-    OverlayService service;
-    const Registered registered(&service);
-    kxOverlayQtModel model;
-    service.setScene(Scene());
-    RandomEdits user(&service, seed);
+    Sitting sitting(seed);
+    OverlayService &service = sitting.service();
     QRandomGenerator random(seed);
     int answers = 0;
     const auto answer = [&] {
         if (answers == 0)
             return;
         --answers;
-        const auto choice = random.bounded(6);
-        if (choice == 0)
-            service.undo();
-        else if (choice == 1)
-            service.redo();
-        else
-            user.edit();
+        sitting.act(random.bounded(6));
     };
     connect(&service, &kxOverlayService::nodesMoved, this, answer);
     connect(&service, &kxOverlayService::nodesAdded, this, answer);
@@ -199,13 +196,13 @@ void tst_History_random::shouldBeFollowedWhenSlotsInterfere()
         {
             const StepGroup group(&service, QStringLiteral("several"));
             for (auto edits = random.bounded(8); edits > 0; --edits)
-                user.edit();
+                sitting.edit();
         }
         answers = 2;
         random.bounded(2) == 0 ? service.undo() : service.redo();
         answers = 0;
         service.setName({}, QString()); // has what was put off announced
-        QCOMPARE(rowsOf(model), rowsOf(service.scene()));
+        QCOMPARE(sitting.shownRows(), sitting.wantedRows());
     }
     disconnect(&service, nullptr, this, nullptr);
 }
@@ -221,25 +218,25 @@ void tst_History_random::shouldComeBackByteForByte()
     OverlayService service;
     const QUndoStack &stack = *service.history().stack();
     RandomEdits user(&service, seed);
-    QVector<QByteArray> files{fileOf(service)};
+    QVector<QByteArray> files{scenetext::fileOf(service)};
     while (files.size() < 200) {
         const int steps = stack.count();
         user.edit();
         service.history().endGesture();
         if (stack.count() == steps)
-            QCOMPARE(fileOf(service), files.constLast());
+            QCOMPARE(scenetext::fileOf(service), files.constLast());
         else
-            files.append(fileOf(service));
+            files.append(scenetext::fileOf(service));
         QCOMPARE(stack.count(), files.size() - 1);
     }
     for (int i = files.size() - 2; i >= 0; --i) {
         service.undo();
-        QCOMPARE(fileOf(service), files.at(i));
+        QCOMPARE(scenetext::fileOf(service), files.at(i));
     }
     QVERIFY(!stack.canUndo());
     for (int i = 1; i < files.size(); ++i) {
         service.redo();
-        QCOMPARE(fileOf(service), files.at(i));
+        QCOMPARE(scenetext::fileOf(service), files.at(i));
     }
     QVERIFY(!stack.canRedo());
 }

@@ -3,6 +3,7 @@
 
 #include "tests/support/KxTest.h"
 #include "tests/viewer/scene/RandomEdits.h"
+#include "tests/viewer/scene/SceneText.h"
 #include "viewer/scene/SceneReader.h"
 #include "viewer/scene/SceneWriter.h"
 
@@ -36,7 +37,7 @@ QByteArray someFile(quint32 seed)
     RandomEdits user(&service, seed);
     for (int i = 0; i < 60; ++i)
         user.edit();
-    return SceneWriter::content(service.scene(), QStringLiteral("/tmp/x.json"), nullptr);
+    return scenetext::fileOf(service);
 }
 
 /// Damages a file in one of the ways in which files are damaged, and in some that need a mind.

@@ -8,7 +8,6 @@
 #include "tests/viewer/scene/RandomEdits.h"
 #include "tests/viewer/scene/SceneText.h"
 #include "viewer/scene/SceneReader.h"
-#include "viewer/scene/SceneWriter.h"
 #include "viewer/script/ScriptRun.h"
 
 #include <QSignalSpy>
@@ -49,11 +48,6 @@ private:
 };
 
 namespace {
-
-QByteArray fileOf(const OverlayService &service)
-{
-    return SceneWriter::content(service.scene(), QStringLiteral("/tmp/scene.json"), nullptr);
-}
 
 Scene sceneOf(const QByteArray &file)
 {
@@ -163,7 +157,7 @@ QByteArray tst_RecordedService::replayed(const QByteArray &before)
     service.setScene(sceneOf(before));
     ScriptRun run(&service, [](const std::function<void()> &work) { work(); }, {});
     const ScriptOutcome outcome = run.run(path());
-    return outcome.text.isEmpty() ? fileOf(service) : outcome.text.toUtf8();
+    return outcome.text.isEmpty() ? scenetext::fileOf(service) : outcome.text.toUtf8();
 }
 
 void tst_RecordedService::shouldWriteWhatChangesSomething()
@@ -271,12 +265,12 @@ void tst_RecordedService::shouldComeToTheSameFileWhenReplayed()
     RandomEdits edits(&first, seed + 1);
     for (int i = 0; i < 40; ++i)
         edits.edit();
-    const QByteArray before = fileOf(first);
+    const QByteArray before = scenetext::fileOf(first);
     m_service->setScene(sceneOf(before));
     RandomSession session(m_service.get(), seed);
     for (int i = 0; i < 150; ++i)
         session.act();
-    QCOMPARE(replayed(before), fileOf(*m_service));
+    QCOMPARE(replayed(before), scenetext::fileOf(*m_service));
 }
 
 KX_TEST_MAIN(tst_RecordedService)
