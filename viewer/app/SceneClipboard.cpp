@@ -103,8 +103,11 @@ void SceneClipboard::paste(const NodeList &selected)
     const QByteArray text = textOnClipboard();
     const SceneReading reading = read(text);
     if (!reading.scene) {
-        emit reported(Severity::Error, tr("There are no overlays on the clipboard.")
-                                           + QLatin1Char('\n') + reading.error);
+        QString message = tr("There are no overlays on the clipboard.");
+        // Who has copied other words did not mean a scene, and wants to know nothing of JSON.
+        if (text.trimmed().startsWith('{'))
+            message += QLatin1Char('\n') + reading.error;
+        emit reported(Severity::Error, message);
         return;
     }
     const Place place = placeFor(selected, text);
