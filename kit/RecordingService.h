@@ -96,6 +96,9 @@ public:
     /// Called at the end of each command and write, with its line in the log.
     void setHook(const std::function<void(const QString &)> &hook) { m_hook = hook; }
 
+    /// Called with the line of each call, questions included, before it is answered.
+    void setCallHook(const std::function<void(const QString &)> &hook) { m_callHook = hook; }
+
     /// @}
 
     QRPC::NodeId getRootNode() override;
@@ -186,4 +189,5 @@ private:
     bool m_announcesMove = false;
     QVector<std::function<void()>> m_queued; // what must not be announced inside a move
     std::function<void(const QString &)> m_hook;
+    std::function<void(const QString &)> m_callHook;
 };

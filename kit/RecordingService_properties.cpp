@@ -35,6 +35,9 @@ QString text(const QPointF &value)
 void RecordingService::note(const QString &line)
 {
     m_log->add(line);
+    const auto hook = m_callHook; // it may replace itself
+    if (hook)
+        hook(line);
 }
 
 QString RecordingService::noteWrite(const char *operation, const QRPC::NodeList &nodes,

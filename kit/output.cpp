@@ -8,18 +8,32 @@
 #include <cstdio>
 #include <unistd.h>
 
-QByteArray output::of(const std::function<void()> &action)
+namespace {
+
+QByteArray written(std::FILE *stream, const std::function<void()> &action)
 {
     QTemporaryFile file;
     if (!file.open())
         return "no file";
-    std::fflush(stdout);
-    const int before = dup(STDOUT_FILENO);
-    dup2(file.handle(), STDOUT_FILENO);
+    std::fflush(stream);
+    const int before = dup(fileno(stream));
+    dup2(file.handle(), fileno(stream));
     action();
-    std::fflush(stdout);
-    dup2(before, STDOUT_FILENO);
+    std::fflush(stream);
+    dup2(before, fileno(stream));
     close(before);
     file.seek(0);
     return file.readAll();
+}
+
+} // namespace
+
+QByteArray output::of(const std::function<void()> &action)
+{
+    return written(stdout, action);
+}
+
+QByteArray output::errorsOf(const std::function<void()> &action)
+{
+    return written(stderr, action);
 }
