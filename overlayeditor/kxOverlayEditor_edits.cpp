@@ -77,7 +77,9 @@ void kxOverlayEditor::fontTransparencyChanged(float r, float g, float b)
 void kxOverlayEditor::loadImage()
 {
     const QString current = m_window->_image_edit->getTexture();
-    const QString filter = kxService<kxFileIOService>()->getImageFileFilter();
+    auto *files = kxService<kxFileIOService>();
+    // Without its filter the dialog lists all files.
+    const QString filter = files ? files->getImageFileFilter() : QString();
     const QString path = QKXImageFileDialog::getOpenFileNameExternalProc(
         m_window, tr("Load Texture"), current, filter, nullptr);
     if (!path.isEmpty())

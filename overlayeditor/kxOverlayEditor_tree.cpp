@@ -82,7 +82,8 @@ QModelIndex kxOverlayEditor::getFirstSelected() const
 
 QRPC::NodeId kxOverlayEditor::getFirstGroup() const
 {
-    QModelIndex index = getFirstSelected();
+    // The service may change its tree in an answer.
+    QPersistentModelIndex index = getFirstSelected();
     while (index.isValid() && kxService<kxOverlayService>()->isOverlay(m_model->getNodeId(index)))
         index = index.parent();
     return index.isValid() ? m_model->getNodeId(index)

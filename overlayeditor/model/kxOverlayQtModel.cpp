@@ -17,6 +17,7 @@
 #include <QScopedValueRollback>
 
 kxOverlayQtModel::kxOverlayQtModel()
+    : m_turns(this, [this](kxTurns::Missed missed) { catchUp(missed); })
 {
     // Under exactly these names, so that signals queued from another thread are delivered.
     qRegisterMetaType<QRPC::NodeId>("QRPC::NodeId");
@@ -90,8 +91,10 @@ bool kxOverlayQtModel::isInTree(const QStandardItem *item) const
 
 bool kxOverlayQtModel::setData(const QModelIndex &index, const QVariant &value, int role)
 {
-    if (m_updating)
+    if (m_updating) {
+        const kxTurns::Hold hold(&m_turns);
         return QStandardItemModel::setData(index, value, role);
+    }
 
     const QRPC::NodeList list{getNodeId(index)};
     // The service may reset or remove the row before it returns.
@@ -103,5 +106,18 @@ bool kxOverlayQtModel::setData(const QModelIndex &index, const QVariant &value, 
         else if (role == Qt::EditRole)
             kxService<kxOverlayService>()->setName(list, value.toString());
     }
-    return target.isValid() && QStandardItemModel::setData(target, value, role);
+    if (!target.isValid()) {
+        // A new row of the node may have been made before its name was written.
+        if (index.isValid())
+            updateName(list);
+        return false;
+    }
+    const kxTurns::Hold hold(&m_turns);
+    return QStandardItemModel::setData(target, value, role);
+}
+
+bool kxOverlayQtModel::removeRows(int row, int count, const QModelIndex &parent)
+{
+    const kxTurns::Hold hold(&m_turns);
+    return QStandardItemModel::removeRows(row, count, parent);
 }

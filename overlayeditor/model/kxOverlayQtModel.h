@@ -4,6 +4,7 @@
 #pragma once
 
 #include "host/QRPC.h"
+#include "overlayeditor/model/kxTurns.h"
 
 #include <QSet>
 #include <QStandardItemModel>
@@ -15,7 +16,8 @@ class kxDropTrace;
 /// It follows the service's signals and holds nothing but ids and display values. It writes to the
 /// service only what the user does to its items: a rename, a check box, a drop. The editor creates
 /// one and owns it; GUI thread only. It knows no view and no selection, and never changes the tree
-/// by itself. No operation reports an error: what cannot be placed is left out.
+/// by itself. No operation reports an error: what cannot be placed is left out. What is announced
+/// while it changes its rows is followed afterwards.
 class kxOverlayQtModel : public QStandardItemModel
 {
     Q_OBJECT
@@ -53,6 +55,9 @@ public:
     /// The path of the user's edits: sends a new name or check state to the service. False when the
     /// row did not outlive the service's answer.
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
+
+    /// Removes rows with their items, as the view does after a drag.
+    bool removeRows(int row, int count, const QModelIndex &parent = QModelIndex()) override;
 
     Qt::DropActions supportedDropActions() const override;
     QStringList mimeTypes() const override;
@@ -113,6 +118,14 @@ private:
     using ItemSet = QSet<const QStandardItem *>;
     using NodeSet = QSet<QRPC::NodeId>;
 
+    void add(const QRPC::NodeList &list);
+    void remove(const QRPC::NodeList &list);
+    void move(const QRPC::NodeList &nodes, const QRPC::NodeList &parents,
+              const QRPC::NodeList &afters);
+    void refreshStates(const QRPC::NodeList &list);
+    void fill();
+    void catchUp(kxTurns::Missed missed);
+
     bool isInTree(const QStandardItem *item) const;
     QStandardItem *knownItem(QRPC::NodeId id, Detached detached) const;
     QStandardItem *obtainItem(QRPC::NodeId id, Detached detached);
@@ -134,4 +147,5 @@ private:
 
     /// True while the model itself calls the service, whose echo then changes nothing twice.
     bool m_updating = false;
+    kxTurns m_turns;
 };

@@ -58,11 +58,14 @@ QMimeData *kxOverlayQtModel::mimeData(const QModelIndexList &indexes) const
     std::copy_if(indexes.begin(), indexes.end(), std::back_inserter(rows),
                  [this](const QModelIndex &index) { return itemFromIndex(index) != nullptr; });
     QMimeData *data = rows.isEmpty() ? new QMimeData : QStandardItemModel::mimeData(rows);
+    // All ids before the first question: the service may change its tree in an answer.
+    QRPC::NodeList nodes;
+    for (const QModelIndex &index : qAsConst(rows))
+        nodes.append(getNodeId(index));
     QByteArray bytes;
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     bool anyGroup = false;
-    for (const QModelIndex &index : qAsConst(rows)) {
-        const QRPC::NodeId id = getNodeId(index);
+    for (const QRPC::NodeId id : qAsConst(nodes)) {
         if (id == 0)
             continue;
         anyGroup |= !kxService<kxOverlayService>()->isOverlay(id);
@@ -80,11 +83,11 @@ bool kxOverlayQtModel::dropMimeData(const QMimeData *data, Qt::DropAction action
     if (!data->hasFormat(s_treeItems) && !data->hasFormat(s_overlayItems))
         return QStandardItemModel::dropMimeData(data, Qt::MoveAction, row, column, parent);
 
+    // The service may reset or remove the target before it returns.
+    const QPersistentModelIndex place(parent);
     QRPC::NodeId target = getNodeId(parent);
     if (target == 0)
         target = kxService<kxOverlayService>()->getRootNode();
-    // The service may reset or remove the target before it returns.
-    const QPersistentModelIndex place(parent);
     const QRPC::NodeList nodes = decodeNodes(data);
     {
         const QScopedValueRollback<bool> guard(m_updating, true);
@@ -94,5 +97,6 @@ bool kxOverlayQtModel::dropMimeData(const QMimeData *data, Qt::DropAction action
     Q_EMIT nodesDropped(nodes, place);
     if (parent.isValid() && !place.isValid())
         return false;
+    const kxTurns::Hold hold(&m_turns);
     return QStandardItemModel::dropMimeData(data, Qt::MoveAction, row, column, place);
 }

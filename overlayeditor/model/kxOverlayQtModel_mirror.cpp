@@ -53,6 +53,7 @@ QVector<QStandardItem *> inOrderOfRemoval(const QVector<QStandardItem *> &items)
 
 QStandardItem *kxOverlayQtModel::createItem(QRPC::NodeId id)
 {
+    const kxTurns::Hold hold(&m_turns);
     return obtainItem(id, Detached::Reuse);
 }
 
@@ -97,11 +98,15 @@ void kxOverlayQtModel::appendChildren(QStandardItem *item, QRPC::NodeId id, Deta
 
 void kxOverlayQtModel::nodeAddedUpdate(QRPC::NodeId id)
 {
-    ItemSet incomplete;
-    addNode(id, &incomplete);
+    nodesAddedUpdate({id});
 }
 
 void kxOverlayQtModel::nodesAddedUpdate(const QRPC::NodeList &list)
+{
+    m_turns.take([this, list] { add(list); });
+}
+
+void kxOverlayQtModel::add(const QRPC::NodeList &list)
 {
     ItemSet incomplete;
     for (const QRPC::NodeId id : list)
@@ -153,6 +158,7 @@ void kxOverlayQtModel::removeFromParent(QStandardItem *item)
     const int row = item->row();
     if (row < 0)
         return;
+    const kxTurns::Hold hold(&m_turns);
     // Not takeChild() and then removeRow(): that invalidates the row's indexes before its removal
     // is announced, and a selection model with a range that begins there crashes.
     getParent(item)->takeRow(row);
@@ -176,6 +182,11 @@ void kxOverlayQtModel::announceLeaving(const QRPC::NodeList &nodes)
 
 void kxOverlayQtModel::nodesRemovedUpdate(const QRPC::NodeList &list)
 {
+    m_turns.take([this, list] { remove(list); });
+}
+
+void kxOverlayQtModel::remove(const QRPC::NodeList &list)
+{
     QVector<QStandardItem *> items;
     for (const QRPC::NodeId id : list) {
         if (QStandardItem *item = itemFromId(id))
@@ -190,8 +201,13 @@ void kxOverlayQtModel::nodesRemovedUpdate(const QRPC::NodeList &list)
 void kxOverlayQtModel::nodesMoved(const QRPC::NodeList &nodes, const QRPC::NodeList &parents,
                                   const QRPC::NodeList &afters)
 {
-    if (m_updating)
-        return;
+    if (!m_updating)
+        m_turns.take([this, nodes, parents, afters] { move(nodes, parents, afters); });
+}
+
+void kxOverlayQtModel::move(const QRPC::NodeList &nodes, const QRPC::NodeList &parents,
+                            const QRPC::NodeList &afters)
+{
     announceLeaving(nodes);
     rememberItems(nodes);
     for (int i = 0; i < nodes.size(); ++i) {
@@ -232,6 +248,7 @@ void kxOverlayQtModel::updateName(const QRPC::NodeList &list)
 {
     if (m_updating)
         return;
+    const kxTurns::Hold hold(&m_turns);
     const QScopedValueRollback<bool> guard(m_updating, true);
     for (const QRPC::NodeId id : list) {
         if (QStandardItem *item = itemFromId(id))
@@ -240,6 +257,11 @@ void kxOverlayQtModel::updateName(const QRPC::NodeList &list)
 }
 
 void kxOverlayQtModel::updateEnabledState(const QRPC::NodeList &list)
+{
+    m_turns.take([this, list] { refreshStates(list); });
+}
+
+void kxOverlayQtModel::refreshStates(const QRPC::NodeList &list)
 {
     ItemSet refreshedSwitches;
     ItemSet refreshed;
@@ -293,13 +315,21 @@ void kxOverlayQtModel::updateActiveStates(QVector<QStandardItem *> stack, ItemSe
 
 void kxOverlayQtModel::modelReset()
 {
+    m_turns.take([this] { fill(); }, kxTurns::Missed::Reset);
+}
+
+void kxOverlayQtModel::fill()
+{
     s_itemMap.clear();
     clear();
     kxOverlayItemIndex::the().destroyDetached(this);
 
     const QRPC::NodeId root = kxService<kxOverlayService>()->getRootNode();
     invisibleRootItem()->setData(root, kxOverlayItem::NodeIdRole);
-    for (int i = 0; i < kxService<kxOverlayService>()->getChildCount(root); ++i)
-        invisibleRootItem()->appendRow(
-            createItem(kxService<kxOverlayService>()->getChild(root, i)));
+    for (int i = 0; i < kxService<kxOverlayService>()->getChildCount(root); ++i) {
+        QStandardItem *item = createItem(kxService<kxOverlayService>()->getChild(root, i));
+        // Only a service that changes its tree in an answer names a child twice.
+        if (!isInTree(item))
+            invisibleRootItem()->appendRow(item);
+    }
 }

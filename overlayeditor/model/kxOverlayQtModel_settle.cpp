@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: the Overlay Editor authors
 // SPDX-License-Identifier: MIT
 
-// Makes the rows that a drag has touched equal to the service again.
+// Makes rows equal to the service again, after a drag and after what could not be followed at once.
 
 #include "overlayeditor/model/kxOverlayQtModel.h"
 
@@ -16,6 +16,7 @@
 
 void kxOverlayQtModel::settle(const kxDropTrace &trace, Copies copies)
 {
+    const kxTurns::Hold hold(&m_turns);
     // Mending one place may shift or remove rows of the next.
     const QModelIndexList rows = trace.insertedRows();
     const QVector<QPersistentModelIndex> inserted(rows.begin(), rows.end());
@@ -38,6 +39,18 @@ void kxOverlayQtModel::settle(const kxDropTrace &trace, Copies copies)
         if (isRoot || remaining.at(i).isValid())
             settleChildren(isRoot ? invisibleRootItem() : itemFromIndex(remaining.at(i)), dropped);
     }
+}
+
+/// Mends the rows that differ, as after a drop, so that the others stay selected and open.
+void kxOverlayQtModel::catchUp(kxTurns::Missed missed)
+{
+    if (missed == kxTurns::Missed::Reset) {
+        fill();
+        return;
+    }
+    settleChildren(invisibleRootItem(), {});
+    for (int row = 0; row < rowCount(); ++row)
+        settleSubtree(item(row), {});
 }
 
 bool kxOverlayQtModel::isInPlace(QStandardItem *item) const

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "host/QKXImageFileDialog.h"
+#include "host/kxFileIOService.h"
+#include "host/kxKernelServiceFactory.h"
 #include "kit/PanelEdit.h"
 #include "kit/output.h"
 #include "tests/overlayeditor/PanelTest.h"
@@ -51,6 +53,7 @@ private Q_SLOTS:
     void shouldAskForAnImageInOrder();
     void shouldSendTheImageThatWasChosen();
     void shouldSendNothingWhenTheDialogIsCancelled();
+    void shouldOfferAllFilesWithoutTheFileService();
     void shouldSendOneRenameToThreeNodes();
 
 private:
@@ -256,6 +259,23 @@ void tst_kxOverlayEditor_edits::shouldSendNothingWhenTheDialogIsCancelled()
                     [](QKXImageFileDialog *dialog) { QTest::keyClick(dialog, Qt::Key_Escape); });
     QCOMPARE(commandsOf([this] { Q_EMIT window()._image_edit->clickedLoadTexture(); }),
              QStringList());
+}
+
+void tst_kxOverlayEditor_edits::shouldOfferAllFilesWithoutTheFileService()
+{
+    openEditor("a2");
+    select({2});
+    kxKernelServiceFactory::the()->unregisterService<kxFileIOService>();
+    bool opened = false;
+    whenDialogOpens(this, [isOpen = &opened](QKXImageFileDialog *dialog) {
+        *isOpen = true;
+        QCOMPARE(dialog->nameFilters(), QStringList("All Files (*)"));
+        dialog->reject();
+    });
+    const QByteArray errors =
+        output::errorsOf([this] { Q_EMIT window()._image_edit->clickedLoadTexture(); });
+    QVERIFY2(errors.contains("couldn't find class"), errors.constData());
+    QVERIFY(opened);
 }
 
 void tst_kxOverlayEditor_edits::shouldSendOneRenameToThreeNodes()
