@@ -84,7 +84,8 @@ QString Report::write(const QString &path) const
     if (!file.open(QIODevice::WriteOnly))
         return file.errorString();
     file.write(path.endsWith(QLatin1String(".xml")) ? xml() : json());
-    return file.commit() ? QString() : file.errorString();
+    // What is flushed by the commit alone may fail without a word.
+    return file.flush() && file.commit() ? QString() : file.errorString();
 }
 
 QByteArray Report::json() const

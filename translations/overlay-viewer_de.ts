@@ -569,6 +569,10 @@ Ein Lauf ohne Fenster gibt zurück:
         <source>&amp;Overwrite</source>
         <translation>&amp;Überschreiben</translation>
     </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Verwerfen</translation>
+    </message>
 </context>
 <context>
     <name>viewer::GuideWindow</name>

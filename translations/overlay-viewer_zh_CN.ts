@@ -569,6 +569,10 @@ A headless run returns:
         <source>&amp;Overwrite</source>
         <translation>覆盖(&amp;O)</translation>
     </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>放弃(&amp;D)</translation>
+    </message>
 </context>
 <context>
     <name>viewer::GuideWindow</name>

@@ -65,6 +65,8 @@ FileQuestions::Answer FileQuestions::aboutRecovery(const QString &name, const QS
                     QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, m_window);
     box.setTextFormat(Qt::PlainText);
     box.button(QMessageBox::Save)->setText(tr("&Recover"));
+    // A desktop may call it "Close without Saving", and it is for good.
+    box.button(QMessageBox::Discard)->setText(tr("&Discard"));
     box.button(QMessageBox::Cancel)->setText(tr("&Later"));
     box.setDefaultButton(QMessageBox::Save);
     return answerOf(box.exec());

@@ -7,6 +7,7 @@
 #include "viewer/app/InterruptWatch.h"
 #include "viewer/app/ModuleLoader.h"
 #include "viewer/app/OverlayLayer.h"
+#include "viewer/app/PictureFile.h"
 #include "viewer/app/ProgressReport.h"
 #include "viewer/scene/SceneReader.h"
 #include "viewer/scene/SceneWriter.h"
@@ -169,10 +170,7 @@ QString HeadlessRun::writePicture(const QString &file)
     if (m_line.headless.isTransparent && isKnown && !keepsTransparency(format))
         return tr("its format knows no transparency, as PNG does");
     const QImage image = picture();
-    if (image.isNull())
-        return tr("it needs too much memory");
-    QImageWriter writer(file);
-    return writer.write(image) ? QString() : writer.errorString();
+    return image.isNull() ? tr("it needs too much memory") : savePicture(image, file);
 }
 
 /// The files that cannot be read, and whether an overlay shows them.

@@ -4,10 +4,10 @@
 #include "viewer/app/Screenshot.h"
 
 #include "viewer/app/MainWindow.h"
+#include "viewer/app/PictureFile.h"
 #include "viewer/render/ImageCache.h"
 
 #include <QDir>
-#include <QImageWriter>
 #include <QTimer>
 
 namespace viewer {
@@ -35,13 +35,10 @@ void Screenshot::take()
         connect(&m_images, &ImageCache::finished, this, &Screenshot::take, Qt::UniqueConnection);
         return;
     }
-    QImageWriter writer(m_file);
-    if (writer.write(picture)) {
-        emit finished(QString());
-        return;
-    }
-    emit finished(tr("The picture \"%1\" cannot be written: %2")
-                      .arg(QDir::toNativeSeparators(m_file), writer.errorString()));
+    const QString fault = savePicture(picture, m_file);
+    emit finished(fault.isEmpty() ? QString()
+                                  : tr("The picture \"%1\" cannot be written: %2")
+                                        .arg(QDir::toNativeSeparators(m_file), fault));
 }
 
 } // namespace viewer

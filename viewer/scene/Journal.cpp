@@ -37,7 +37,7 @@ bool writeJournal(const QString &path, const QByteArray &head, const QByteArray 
 {
     QSaveFile file(path);
     return !scene.isNull() && file.open(QIODevice::WriteOnly) && file.write(head) == head.size()
-           && file.write(scene) == scene.size() && file.commit();
+           && file.write(scene) == scene.size() && file.flush() && file.commit();
 }
 
 bool isHeld(const QString &journal)

@@ -245,7 +245,9 @@ SceneWriting SceneWriter::write(const Scene &scene, const QString &path)
                             .arg(sceneformat::MaxLevels);
         return writing;
     }
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+    // What is flushed by the commit alone may fail without a word.
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush()
+        || !file.commit())
         writing.error = tr("%1: the scene cannot be written: %2")
                             .arg(QDir::toNativeSeparators(path), file.errorString());
     return writing;

@@ -7,7 +7,6 @@
 #include "tests/viewer/app/OverlayPicture.h"
 #include "viewer/app/ModulePanels.h"
 
-#include <QDir>
 #include <QDockWidget>
 #include <QLineEdit>
 #include <QPainter>
@@ -17,8 +16,6 @@
 #include <QTemporaryDir>
 
 using namespace viewer;
-using Answer = FileQuestions::Answer;
-Q_DECLARE_METATYPE(viewer::FileQuestions::Answer)
 
 class tst_ViewerSession : public KxTest
 {
@@ -44,8 +41,6 @@ private Q_SLOTS:
     void shouldShortenManyWarnings();
     void shouldTakeOldNoticesAwayWhenTheUserOpensAScene();
     void shouldKeepTheLayoutForTheNextRun();
-    void shouldOfferLostWork_data();
-    void shouldOfferLostWork();
     void shouldMarkUnsavedChangesInTheTitle();
     void shouldLeaveAPictureAndQuit();
     void shouldWaitForImagesWithThePicture();
@@ -354,63 +349,6 @@ void tst_ViewerSession::shouldKeepTheLayoutForTheNextRun()
     ViewerSession session(line({}), &settings);
     session.start();
     QVERIFY(!session.window()->modulePanels()->dock("Journal")->isVisible());
-}
-
-namespace {
-
-class Answers : public FileQuestions
-{
-public:
-    Answers(Answer answer, QStringList *asked)
-        : FileQuestions(nullptr)
-        , m_answer(answer)
-        , m_asked(asked)
-    {
-    }
-    Answer aboutRecovery(const QString &name, const QString &) override
-    {
-        m_asked->append(name);
-        return m_answer;
-    }
-
-private:
-    Answer m_answer;
-    QStringList *m_asked;
-};
-
-} // namespace
-
-void tst_ViewerSession::shouldOfferLostWork_data()
-{
-    QTest::addColumn<FileQuestions::Answer>("answer");
-    QTest::addColumn<int>("nodes");
-    QTest::addColumn<bool>("staysForLater");
-    QTest::newRow("recover") << Answer::Save << 1 << false;
-    QTest::newRow("discard") << Answer::Discard << 0 << false;
-    QTest::newRow("later") << Answer::Cancel << 0 << true;
-}
-
-void tst_ViewerSession::shouldOfferLostWork()
-{
-    QFETCH(FileQuestions::Answer, answer);
-    QFETCH(int, nodes);
-    QFETCH(bool, staysForLater);
-    QVERIFY(QDir(m_folder->path()).mkdir("unsaved"));
-    const QString journal =
-        write("unsaved/left.journal",
-              "/scenes/night.json\n" + scene(R"({"kind": "group", "name": "lost"})"));
-    QSettings settings(m_folder->filePath("settings.ini"), QSettings::IniFormat);
-    QStringList asked;
-    ViewerSession session(line({}), &settings, std::make_unique<Answers>(answer, &asked));
-    session.start();
-    QTRY_COMPARE(asked, QStringList("/scenes/night.json"));
-    QCOMPARE(session.overlays()->getChildCount(Scene::RootId), nodes);
-    QCOMPARE(session.document()->isModified(), nodes > 0);
-    QCOMPARE(session.document()->path(), QString(nodes > 0 ? "/scenes/night.json" : ""));
-    QCOMPARE(QFile::exists(journal), staysForLater);
-    // What was recovered is still not saved.
-    QCOMPARE(QDir(m_folder->filePath("unsaved")).entryList({"*.journal"}).size(),
-             staysForLater || nodes > 0 ? 1 : 0);
 }
 
 void tst_ViewerSession::shouldMarkUnsavedChangesInTheTitle()

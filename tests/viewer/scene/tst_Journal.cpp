@@ -3,6 +3,7 @@
 
 #include "viewer/scene/Journal.h"
 
+#include "tests/support/FullDisk.h"
 #include "tests/support/KxTest.h"
 #include "viewer/scene/OverlayService.h"
 #include "viewer/scene/SceneReader.h"
@@ -37,9 +38,15 @@ private Q_SLOTS:
     void shouldGoWhenTheSceneIsSaved();
     void shouldGoWithTheRun();
     void shouldNotOfferTheWorkOfARunningViewer();
+    void shouldNotOfferTheWorkOfAViewerThatHasRunForADay();
+    void shouldListTheOldestFirst();
+    void shouldKeepAnyPath_data();
+    void shouldKeepAnyPath();
+    void shouldFollowThePath();
     void shouldKeepPathsOfImages();
     void shouldLeaveABrokenJournalAlone();
     void shouldSayOnceThatItCannotWrite();
+    void shouldSaySoAgainAfterItCould();
     void shouldLoseNoMoreThanTheLastMoment_data();
     void shouldLoseNoMoreThanTheLastMoment();
 
@@ -159,6 +166,63 @@ void tst_Journal::shouldNotOfferTheWorkOfARunningViewer()
     QCOMPARE(Journal::lostWork(folder()).size(), 0);
 }
 
+void tst_Journal::shouldNotOfferTheWorkOfAViewerThatHasRunForADay()
+{
+    edit();
+    m_journal->flush();
+    QFile lock(folder() + '/' + journals().value(0) + ".lock");
+    QVERIFY(lock.open(QIODevice::ReadWrite));
+    QVERIFY(lock.setFileTime(QDateTime::currentDateTime().addDays(-1),
+                             QFileDevice::FileModificationTime));
+    QCOMPARE(Journal::lostWork(folder()).size(), 0);
+}
+
+void tst_Journal::shouldListTheOldestFirst()
+{
+    QVERIFY(QDir().mkpath(folder()));
+    for (const int age : {2, 3, 1}) {
+        QFile file(folder() + QStringLiteral("/%1.journal").arg(age));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(file.setFileTime(QDateTime::currentDateTime().addDays(-age),
+                                 QFileDevice::FileModificationTime));
+    }
+    QStringList names;
+    const QVector<LostWork> lost = Journal::lostWork(folder());
+    for (const LostWork &work : lost)
+        names.append(QFileInfo(work.journal).baseName());
+    QCOMPARE(names, QStringList({"3", "2", "1"}));
+}
+
+void tst_Journal::shouldKeepAnyPath_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("two lines") << "/a\nb.json";
+    QTest::newRow("a per cent sign") << "/100%20.json";
+    QTest::newRow("blanks at the end") << "/a.json  ";
+}
+
+void tst_Journal::shouldKeepAnyPath()
+{
+    QFETCH(QString, path);
+    m_journal->setPath(path);
+    edit();
+    m_journal->flush();
+    const QVector<LostWork> lost = afterACrash();
+    QCOMPARE(lost.size(), 1);
+    QCOMPARE(lost.first().path, path);
+    QVERIFY(Journal::recover(lost.first()));
+}
+
+void tst_Journal::shouldFollowThePath()
+{
+    m_journal->setPath("/a.json");
+    edit();
+    m_journal->flush();
+    m_journal->setPath("/b.json");
+    const auto path = [this] { return afterACrash().value(0).path; };
+    QTRY_COMPARE(path(), QString("/b.json"));
+}
+
 void tst_Journal::shouldKeepPathsOfImages()
 {
     for (const char *path : {"", "/scenes/a.json"}) {
@@ -195,6 +259,20 @@ void tst_Journal::shouldSayOnceThatItCannotWrite()
     m_journal->flush();
     m_journal->flush();
     QCOMPARE(failures.count(), 1);
+}
+
+void tst_Journal::shouldSaySoAgainAfterItCould()
+{
+    QSignalSpy failures(m_journal.get(), &Journal::failed);
+    edit();
+    for (int times = 1; times <= 2; ++times) {
+        {
+            const FullDisk disk(10);
+            QVERIFY(!m_journal->flush());
+        }
+        QCOMPARE(failures.count(), times);
+        QVERIFY(m_journal->flush());
+    }
 }
 
 void tst_Journal::shouldLoseNoMoreThanTheLastMoment_data()

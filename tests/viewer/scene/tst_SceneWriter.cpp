@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: the Overlay Editor authors
 // SPDX-License-Identifier: MIT
 
+#include "tests/support/FullDisk.h"
 #include "tests/viewer/scene/ServiceTest.h"
 #include "viewer/scene/SceneFormat.h"
 #include "viewer/scene/SceneReader.h"
@@ -33,6 +34,7 @@ private Q_SLOTS:
     void shouldWriteDeepTreesInLinearRoom();
     void shouldRefuseTreesThatTheReaderRefuses();
     void shouldKeepTheOldFileWhenWritingFails();
+    void shouldKeepTheOldFileWhenTheDiskIsFull();
 
 private:
     static QByteArray written(const Scene &scene, const QString &path = "/s/scene.json")
@@ -221,6 +223,24 @@ void tst_SceneWriter::shouldKeepTheOldFileWhenWritingFails()
     QVERIFY(writing.error.startsWith(folder.filePath("taken")));
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList("scene.json"));
     QVERIFY(!SceneWriter::write(scene(), folder.filePath("no/such/folder.json")).isWritten());
+}
+
+void tst_SceneWriter::shouldKeepTheOldFileWhenTheDiskIsFull()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("scene.json");
+    open("a");
+    QVERIFY(SceneWriter::write(scene(), path).isWritten());
+    open("a b c");
+    const auto write = [&] {
+        const FullDisk disk(rlim_t(written(scene(), path).size()) - 1);
+        return SceneWriter::write(scene(), path);
+    };
+    const SceneWriting writing = write();
+    QVERIFY(!writing.isWritten());
+    QVERIFY(writing.error.startsWith(path));
+    QCOMPARE(scenetext::dump(*SceneReader::read(path).scene), QString("a"));
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList("scene.json"));
 }
 
 void tst_SceneWriter::shouldRefuseTreesThatTheReaderRefuses()
