@@ -32,16 +32,20 @@ class KXHOST_EXPORT QKXColorManipulator : public QWidget
     Q_OBJECT
 
 public:
-    /// `name` becomes the object name; null for none. Black at first.
+    /// A control that shows black.
+    /// @param parent becomes the owner; null for none
+    /// @param name   the object name; null for none
     explicit QKXColorManipulator(QWidget *parent = nullptr, const char *name = nullptr);
     ~QKXColorManipulator() override;
 
     /// Shows a colour and announces nothing. A colour that has the same 8 bit red, green and blue as
     /// the one shown changes nothing: the echo of an edit keeps the hue of a colour that has become
     /// grey or black on the way.
+    /// @param color parts outside their ranges count as the nearest end
     void setColor(const QKXColor &color);
 
-    /// The colour shown, with the hue that the user has chosen also where it is grey.
+    /// The colour shown.
+    /// @return with the hue that the user has chosen also where it is grey
     QKXColor color() const;
 
     QSize sizeHint() const override;
@@ -53,7 +57,10 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     /// The user has chosen another colour: with each move of the mouse in a bar or in the dialog and
-    /// with each key. Every part is a multiple of 1/255, from 0 to 1.
+    /// with each key.
+    /// @param red   from 0 to 1, a multiple of 1/255, as are the others
+    /// @param green from 0 to 1
+    /// @param blue  from 0 to 1
     void colorChanged(float red, float green, float blue);
 
 protected:

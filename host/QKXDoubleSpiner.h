@@ -18,19 +18,25 @@
 class KXHOST_EXPORT QKXDoubleSpiner : public QDoubleSpinBox
 {
     Q_OBJECT
+    /// Whether the field shows as many decimals as the value needs; see setUseExactDisplayDecimals().
     Q_PROPERTY(
         bool useExactDisplayDecimals READ useExactDisplayDecimals WRITE setUseExactDisplayDecimals)
 
 public:
+    /// A field from 0 to 99.99, as Qt's own.
+    /// @param parent becomes the owner; null for none
     explicit QKXDoubleSpiner(QWidget *parent = nullptr);
     ~QKXDoubleSpiner() override;
 
-    /// On (as it is at first): the field shows as many decimals as the value needs, at most six and
-    /// none that is a trailing zero; a value that was held as float shows the number it was made
-    /// from, 12.7 and not 12.699999809; the value itself is never rounded to what is shown. Off:
-    /// the field shows and keeps decimals() decimals, two unless set. Called by whoever builds the
-    /// panel.
+    /// Says how many decimals are shown. Called by whoever builds the panel.
+    /// @param exact on: as many as the value needs, at most six and none that is a trailing zero; a
+    ///              value that was held as float shows the number it was made from, 12.7 and not
+    ///              12.699999809; the value itself is never rounded to what is shown. Off: the field
+    ///              shows and keeps decimals() decimals, two unless set
     void setUseExactDisplayDecimals(bool exact);
+
+    /// Whether as many decimals are shown as the value needs.
+    /// @return true at first
     bool useExactDisplayDecimals() const;
 
     QString textFromValue(double value) const override;

@@ -20,20 +20,27 @@ class KXHOST_EXPORT QKXImageFileDialog : public QFileDialog
     Q_OBJECT
 
 public:
-    /// `directory` is a folder, or a file that is then selected; when neither exists the nearest
-    /// folder above it that does, when it is empty the folder that was visited last. `filter` holds
-    /// the name filters of Qt's file dialogs, separated by ";;"; empty for all files.
+    /// A dialog that is not shown yet.
+    /// @param parent    becomes the owner; null for none
+    /// @param caption   translated title; empty for that of the system
+    /// @param directory a folder, or a file that is then selected; when neither exists the nearest
+    ///                  folder above it that does, when it is empty the folder visited last
+    /// @param filter    name filters of Qt's file dialogs, separated by ";;"; empty for all files
     QKXImageFileDialog(QWidget *parent, const QString &caption, const QString &directory,
                        const QString &filter);
     ~QKXImageFileDialog() override;
 
-    /// The position of the selected filter in the filters given; 0 when none were given.
+    /// The selected filter.
+    /// @return index in the filters given; 0 when none were given
     int selectedFilterIndex() const;
 
-    /// Asks the user for an image and gives its absolute path; an empty string when the user
-    /// cancels. The arguments are those of the constructor. `selectedFilter` may be null; when a
-    /// file was chosen it receives selectedFilterIndex(). Called by modules; returns when the
-    /// dialog is closed.
+    /// Asks the user for an image. Called by modules; returns when the dialog is closed.
+    /// @param parent         stands below the dialog; null for none
+    /// @param caption        as in the constructor
+    /// @param directory      as in the constructor
+    /// @param filter         as in the constructor
+    /// @param selectedFilter receives selectedFilterIndex() when a file was chosen; may be null
+    /// @return absolute path; empty when the user cancels
     static QString getOpenFileNameExternalProc(QWidget *parent, const QString &caption,
                                                const QString &directory, const QString &filter,
                                                int *selectedFilter);

@@ -17,6 +17,8 @@ class KXHOST_EXPORT QKXSearchBox : public QLineEdit
     Q_OBJECT
 
 public:
+    /// An empty line.
+    /// @param parent becomes the owner; null for none
     explicit QKXSearchBox(QWidget *parent = nullptr);
     ~QKXSearchBox() override;
 
@@ -28,9 +30,9 @@ public:
     void searchAgain();
 
 Q_SIGNALS:
-    /// The text has changed, by typing, clearing or setText(), or is to be searched again; with the
-    /// whole text. All modules read it alike: QRegExp::Wildcard, case counts, found anywhere in a
-    /// name; empty finds all.
+    /// The text has changed, by typing, clearing or setText(), or is to be searched again.
+    /// @param text the whole text. All modules read it alike: QRegExp::Wildcard, case counts, found
+    ///             anywhere in a name; empty finds all
     void searchChanged(const QString &text);
 
 protected:

@@ -26,29 +26,39 @@ class KXHOST_EXPORT QKXSlider : public QWidget
     Q_OBJECT
 
 public:
-    /// `name` becomes the object name; null for none.
+    /// A slider from 0 to 100 that stands at 0.
+    /// @param parent becomes the owner; null for none
+    /// @param name   the object name; null for none
     explicit QKXSlider(QWidget *parent = nullptr, const char *name = nullptr);
     ~QKXSlider() override;
 
-    /// The range of the handle, 0 to 100 at first. The value stays as it is, also where it lies
-    /// outside; the handle moves to fit. A range that is empty or not finite is ignored.
+    /// Sets the range of the handle. The value stays as it is, also where it lies outside; the handle
+    /// moves to fit. A range that is empty or not finite is ignored.
+    /// @param minimum at the left end, in the unit of the value
+    /// @param maximum at the right end, in the unit of the value
     void setRange(double minimum, double maximum);
 
-    /// Any finite value, kept as it is; others are ignored. As with Qt's own sliders a value that
-    /// differs is announced, unless signals are blocked. A number that is being typed is lost only
-    /// when the value differs.
+    /// Shows a value. As with Qt's own sliders one that differs is announced, unless signals are
+    /// blocked. A number that is being typed is lost only when the value differs.
+    /// @param value any finite number, in the unit of the owner's choice, kept as it is; others are
+    ///              ignored
     void setValue(double value);
+
+    /// The value that was set, typed or dragged last.
+    /// @return in the unit of the owner's choice; 0 at first
     double value() const;
 
-    /// How far an arrow key and the smallest drag go, 1 at first. The field shows at least the
-    /// decimals of the step, and up to six where a value has more. A step that is not above 0 is
-    /// ignored.
+    /// Sets how far an arrow key and the smallest drag go, 1 at first. The field shows at least the
+    /// decimals of the step, and up to six where a value has more.
+    /// @param step in the unit of the value; one that is not above 0 is ignored
     void setLineStep(double step);
 
-    /// The unit that the field shows behind the number; empty for none.
+    /// Has the field show a unit.
+    /// @param suffix stands directly behind the number; empty for none
     void setSuffix(const QString &suffix);
 
-    /// Makes the whole slider usable or not: isEnabled() follows.
+    /// Makes the whole slider usable or not.
+    /// @param enabled what isEnabled() becomes
     virtual void setSliderEnabled(bool enabled);
 
     /// Hands the marking "multiselect" of the slider to its handle and its field. Called by modules
@@ -58,6 +68,7 @@ public:
 Q_SIGNALS:
     /// The value has changed: with each step of a drag, with each key on the handle, when a typed
     /// number is committed, and by setValue().
+    /// @param value in the unit of the owner's choice; may lie outside the range
     void valueChanged(double value);
 
     /// The handle was let go; value() is what the drag has led to.

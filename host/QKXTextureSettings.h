@@ -22,22 +22,36 @@ struct KXHOST_EXPORT QKXTextureSettings
     };
 
     /// How places on a surface are found in the image.
-    enum Projection { Uv, Planar, Box, Cylindrical, Spherical };
+    enum Projection {
+        Uv,          ///< by the surface's own coordinates
+        Planar,      ///< from one side
+        Box,         ///< from six sides
+        Cylindrical, ///< from around an axis
+        Spherical    ///< from around a point
+    };
 
-    Projection projection = Uv;
-    RepeatMode repeatModeU = Repeat;
-    RepeatMode repeatModeV = Repeat;
-    QPointF repeat = {1, 1};       ///< how often the image fits; without real-world scale only
-    QPointF offset = {0, 0};       ///< in parts of the image
-    double rotation = 0;           ///< degrees, counter-clockwise
-    bool realWorldScale = false;   ///< on: one image covers realWorldSize instead of `repeat`
-    QSizeF realWorldSize = {1, 1}; ///< metres
-    int anisotropy = 1;            ///< samples: 1, 2, 4, 8 or 16
-    double gamma = 1;              ///< 0.1 to 10
-    double alpha = 1;              ///< opacity, 0 to 1
-    bool linked = false;           ///< shared with the other textures of the same owner
+    Projection projection = Uv;      ///< how the image comes onto the surface
+    RepeatMode repeatModeU = Repeat; ///< across
+    RepeatMode repeatModeV = Repeat; ///< upwards
+    QPointF repeat = {1, 1};         ///< how often the image fits; without real-world scale only
+    QPointF offset = {0, 0};         ///< in parts of the image
+    double rotation = 0;             ///< degrees, counter-clockwise
+    bool realWorldScale = false;     ///< on: one image covers realWorldSize instead of `repeat`
+    QSizeF realWorldSize = {1, 1};   ///< metres
+    int anisotropy = 1;              ///< samples: 1, 2, 4, 8 or 16
+    double gamma = 1;                ///< 0.1 to 10
+    double alpha = 1;                ///< opacity, 0 to 1
+    bool linked = false;             ///< shared with the other textures of the same owner
 
+    /// Whether all parts are equal.
+    /// @param a one record
+    /// @param b the other one
+    /// @return false when one part differs, however little
     friend KXHOST_EXPORT bool operator==(const QKXTextureSettings &a, const QKXTextureSettings &b);
+    /// Whether a part differs.
+    /// @param a one record
+    /// @param b the other one
+    /// @return false when all parts are equal
     friend bool operator!=(const QKXTextureSettings &a, const QKXTextureSettings &b)
     {
         return !(a == b);

@@ -17,7 +17,9 @@ class KXHOST_EXPORT QKXToolBar : public QToolBar
     Q_OBJECT
 
 public:
-    /// `title` is the translated name under which a window lists the bar; empty for none.
+    /// A bar without actions.
+    /// @param title  translated name under which a window lists the bar; empty for none
+    /// @param parent becomes the owner; null for none
     explicit QKXToolBar(const QString &title, QWidget *parent = nullptr);
     ~QKXToolBar() override;
 

@@ -18,6 +18,8 @@ class KXHOST_EXPORT kxBaseService : public QObject
     Q_OBJECT
 
 public:
+    /// A service that is not registered yet.
+    /// @param parent destroys the service with itself; null for none
     explicit kxBaseService(QObject *parent = nullptr);
     ~kxBaseService() override;
 

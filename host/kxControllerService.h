@@ -14,8 +14,9 @@ public:
     using kxBaseService::kxBaseService;
     ~kxControllerService() override;
 
-    /// True when the host runs without a user interface: modules then build no window, and no
-    /// main window or platform service need be registered. Asked once, while a module starts; the
-    /// answer must not change in the life of the process. Has no error.
+    /// Whether the host runs without a user interface. Asked once, while a module starts; the answer
+    /// must not change in the life of the process. Has no error.
+    /// @return true: modules build no window, and no main window or platform service need be
+    ///         registered
     virtual bool isHeadless() = 0;
 };

@@ -16,8 +16,9 @@ public:
     using kxBaseService::kxBaseService;
     ~kxFileIOService() override;
 
-    /// The image files that the host can load, as a name filter of Qt's file dialogs: for example
-    /// "Images (*.png *.jpg);;All files (*)". Empty for no restriction. Asked by modules each time
-    /// they open an image dialog; has no error.
+    /// The image files that the host can load. Asked by modules each time they open an image dialog;
+    /// has no error.
+    /// @return a name filter of Qt's file dialogs, for example "Images (*.png *.jpg);;All files (*)";
+    ///         empty for no restriction
     virtual QString getImageFileFilter() = 0;
 };

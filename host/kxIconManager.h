@@ -18,17 +18,24 @@ class KXHOST_EXPORT kxIconManager
 public:
     kxIconManager() = delete;
 
-    /// The icon `name` at any size, with its disabled look. `variant` names a second drawing that
-    /// stands for the icon's "on" state; empty for none. An unknown name gives a null icon and one
-    /// warning. Called by modules while they build menus, bars and buttons.
+    /// An icon at any size, with its disabled look. Called by modules while they build menus, bars and
+    /// buttons.
+    /// @param name    of the set; an empty one is unknown
+    /// @param variant a second drawing, for the icon's "on" state; empty for none, as which an
+    ///                unknown one counts, with one warning
+    /// @return a null icon for an unknown name, with one warning
     static QIcon getIcon(const std::string &name, const std::string &variant);
 
-    /// The icon `name` at the size of a tree row, at the scale of the primary screen. A null pixmap
-    /// for an unknown name (with one warning) and under an application without a window system.
-    /// Called by modules for every row of a tree.
+    /// An icon at the size of a tree row, at the scale of the primary screen. Called by modules for
+    /// every row of a tree.
+    /// @param name    of the set; null is no name of it
+    /// @param options which variant
+    /// @return a null pixmap for an unknown name, with one warning, and under an application without
+    ///         a window system
     static QPixmap get(const char *name, const kxIconOptions &options);
 
-    /// How many icons were drawn from their vectors since the program started: what is asked for
-    /// again comes from memory. For measuring.
+    /// How often icons were drawn from their vectors. What is asked for again comes from memory. For
+    /// measuring.
+    /// @return number of drawings since the program started
     static int renderingCount();
 };

@@ -20,13 +20,18 @@ public:
     /// No option set.
     kxIconOptions();
 
-    /// Turns every bit of `option` on or off.
+    /// Turns options on or off.
+    /// @param option any bits
+    /// @param on     what every one of them becomes
     void setOption(unsigned int option, bool on);
 
-    /// True when every bit of `option` is on.
+    /// Whether options are on.
+    /// @param option any bits
+    /// @return true when every one of them is on, and for no bit
     bool option(unsigned int option) const;
 
-    /// All bits, as a key for caches.
+    /// The options as a key for caches.
+    /// @return all bits; 0 for no option
     unsigned int bits() const { return m_bits; }
 
 private:

@@ -23,26 +23,33 @@
 class KXHOST_EXPORT kxKernelServiceFactory
 {
 public:
-    /// The one registry of the process; never null.
+    /// The one registry of the process.
+    /// @return never null
     static kxKernelServiceFactory *the();
 
-    /// The service registered for T. Null, with one line on standard error, when nothing is
-    /// registered for T or when the registered pointer is null; null without a message when the
-    /// registered object is not a T. Called by modules at every use: services may be exchanged.
+    /// The service registered for a class. Called by modules at every use: services may be exchanged.
+    /// @tparam T class of the service
+    /// @return null, with one line on standard error, when nothing is registered for T or when the
+    ///         registered pointer is null; null without a message when the registered object is not
+    ///         a T
     template<class T>
     T *getService();
 
-    /// Makes `service` the service for T, in place of an earlier one. A null pointer is kept and
-    /// makes every look-up of T report it. Called by the host.
+    /// Registers a service, in place of an earlier one for the same class. Called by the host.
+    /// @tparam T class under which it is found
+    /// @param service stays the host's; null is kept and makes every look-up of T report it
     template<class T>
     void registerService(T *service);
 
-    /// The same for a type known at run time only. The object need not be of that type: a look-up
-    /// then finds nothing, silently. Called by hosts that wire services from a table.
+    /// The same for a class known at run time only. Called by hosts that wire services from a table.
+    /// @param type    class under which it is found
+    /// @param service stays the host's; null is kept and reported. One that is not of that class is
+    ///                not found, silently
     void registerService(const std::type_info &type, kxBaseService *service);
 
-    /// Forgets the service for T; nothing happens when there is none. Called by the host, before
-    /// the service is destroyed.
+    /// Forgets a service; nothing happens when there is none. Called by the host, before the service
+    /// is destroyed.
+    /// @tparam T class under which it was registered
     template<class T>
     void unregisterService();
 

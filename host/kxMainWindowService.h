@@ -18,8 +18,9 @@ public:
     using kxBaseService::kxBaseService;
     ~kxMainWindowService() override;
 
-    /// The widget that becomes the parent, and so the owner, of every module window. Null is
-    /// allowed and leaves the module's window without an owner. Called by a module while it starts.
+    /// The widget that becomes the parent, and so the owner, of every module window. Called by a
+    /// module while it starts.
+    /// @return null leaves the module's window without an owner
     virtual QWidget *getMainWindow() = 0;
 
     /// Makes a module's window known to the host, which lays it out and shows or hides it from
@@ -27,12 +28,12 @@ public:
     ///
     /// @param name     untranslated, unique name of the module; the key under which a host keeps
     ///                 the panel's place and visibility
-    /// @param category untranslated group in which the host lists the panel
+    /// @param category untranslated group in which the host lists the panel, never empty
     /// @param window   the module's window, never null; the host may give it another parent, and
     ///                 must show it through a QWidget pointer
     /// @param helpId   identifier of the panel's help page; empty for none
     /// @param icon     the panel's icon; a null icon for none
-    /// @param title    translated title for the user
+    /// @param title    translated title for the user, never empty
     /// @param flag     reserved; modules pass 0 and hosts ignore other values
     ///
     /// A name that is registered twice replaces nothing: the host reports it and keeps the first.

@@ -15,15 +15,19 @@ public:
     using kxBaseService::kxBaseService;
     ~kxPlatformService() override;
 
-    /// Factor by which widths stated in pixels are multiplied; 1.0 on a display of usual density.
+    /// Factor for widths stated in pixels.
+    /// @return above 0; 1.0 on a display of usual density
     virtual double getScaleFactorX() = 0;
 
-    /// Factor by which heights stated in pixels are multiplied; 1.0 on a display of usual density.
+    /// Factor for heights stated in pixels.
+    /// @return above 0; 1.0 on a display of usual density
     virtual double getScaleFactorY() = 0;
 
-    /// Width of an icon in a tree row, in pixels, the scale factor included; above 0.
+    /// Width of an icon in a tree row.
+    /// @return pixels, the scale factor included; above 0
     virtual int getIconWidth() = 0;
 
-    /// Height of an icon in a tree row, in pixels, the scale factor included; above 0.
+    /// Height of an icon in a tree row.
+    /// @return pixels, the scale factor included; above 0
     virtual int getIconHeight() = 0;
 };

@@ -24,15 +24,24 @@ public:
 
     kxShortcut() = delete;
 
-    /// Makes a key known. The same key may be registered more than once, even in one category.
-    /// Called by modules while they start.
+    /// Makes a key known. The same key may be registered more than once, even in one category. Called
+    /// by modules while they start.
+    /// @param category    translated name of the module; kept as given, also when empty
+    /// @param key         Qt::Key
+    /// @param modifiers   Qt::KeyboardModifiers; 0 for none
+    /// @param description translated name of the command; kept as given, also when empty
     static void addKey(const QString &category, int key, int modifiers, const QString &description);
 
-    /// The text of a key with its modifiers: as the platform shows it in menus, or, with `portable`,
-    /// in the form for files, which is the same on every platform. Empty when `key` is 0.
+    /// The text of a key with its modifiers.
+    /// @param key       Qt::Key; 0 for none
+    /// @param modifiers Qt::KeyboardModifiers; 0 for none
+    /// @param portable  in the form for files, which is the same on every platform, and not as the
+    ///                  platform shows it in menus
+    /// @return empty when there is no key
     static QString convertKey(int key, int modifiers, bool portable);
 
-    /// All registered keys, in the order of their registration. For the host.
+    /// All registered keys. For the host.
+    /// @return in the order of their registration; empty for none
     static QVector<Entry> registeredKeys();
 
     /// Forgets all registered keys. For the host, between two runs of its modules.

@@ -23,29 +23,42 @@ class KXHOST_EXPORT kxStyle : public QProxyStyle
     Q_OBJECT
 
 public:
+    /// A style that is not in use yet.
     kxStyle();
     ~kxStyle() override;
 
     /// The colour of the name of a node that does not show; names of nodes that do are opaque
     /// white.
+    /// @return a valid colour
     static QColor getInactiveNodeColor();
 
     /// The colour that marks what is selected, focused or live.
+    /// @return a valid, opaque colour
     static QColor getAccentColor();
 
     /// The colour of the edge and the hatching of mixed controls.
+    /// @return a valid, opaque colour
     static QColor getMixedColor();
 
-    /// True when `widget` carries the marking "multiselect"; false for null.
+    /// Whether a control is marked "multiselect".
+    /// @param widget null for none
+    /// @return false for none
     static bool isMultiselect(const QWidget *widget);
 
-    /// The words that stand in for the value of a mixed control, translated.
+    /// The words that stand in for the value of a mixed control.
+    /// @return translated, never empty
     static QString mixedText();
 
-    /// Fills `rect` with the look of a mixed field, for widgets that draw themselves.
+    /// Draws the look of a mixed field, for widgets that draw themselves.
+    /// @param painter active, never null
+    /// @param rect    the field, in the painter's coordinates
+    /// @param enabled false for the dimmed look
     static void drawMixedField(QPainter *painter, const QRect &rect, bool enabled);
 
-    /// Writes mixedText() into `rect`, or a dash where the words do not fit.
+    /// Writes mixedText(), or a dash where the words do not fit.
+    /// @param painter active, never null
+    /// @param rect    the room for the words, in the painter's coordinates
+    /// @param enabled false for the dimmed look
     static void drawMixedText(QPainter *painter, const QRect &rect, bool enabled);
 
     QPalette standardPalette() const override;
@@ -59,11 +72,11 @@ public:
     int pixelMetric(PixelMetric metric, const QStyleOption *option,
                     const QWidget *widget) const override;
 
-    /// The buttons of a panel's title bar and the signs of message boxes come from the host's icon set.
+    // The buttons of a panel's title bar and the signs of message boxes come from the host's icon set.
     QIcon standardIcon(StandardPixmap icon, const QStyleOption *option = nullptr,
                        const QWidget *widget = nullptr) const override;
 
-    /// A selected row says that it is selected; its icon stays as bright as it was.
+    // A selected row says that it is selected; its icon stays as bright as it was.
     QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap &pixmap,
                                 const QStyleOption *option) const override;
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
@@ -76,7 +89,7 @@ public:
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
                             QPainter *painter, const QWidget *widget) const override;
 
-    /// Draws the contents of marked text editors, whose viewport no style primitive covers.
+    // Draws the contents of marked text editors, whose viewport no style primitive covers.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

@@ -5,11 +5,13 @@
 one fault, and on the same tree without it."""
 
 import pathlib
+import shutil
 import tempfile
 import unittest
 
 import arrows
 import duplicates
+import interface
 import pictures
 import rules
 import snippets
@@ -231,6 +233,60 @@ class Duplicates(Tree):
         overrides = ["class A", "{", "public:"]
         overrides += [f"    QString f{i}(int a,\n        int b) const override;" for i in range(9)]
         self.assertEqual(self.check(overrides, overrides), [])
+
+
+class Interface(Tree):
+    START = "/// A service of the host. Unknown ids are ignored.\nclass A\n{\npublic:\n"
+
+    def check(self, declarations, start=START):
+        """What is found in a class, without the place."""
+        shutil.copytree(pathlib.Path(__file__).parents[2] / "docs/api", self.root / "docs/api",
+                        dirs_exist_ok=True)
+        self.add("host/A.h", f"{start}{declarations}}};\n")
+        return [fault.split(": ", 1)[1] for fault in interface.faults(self.root)]
+
+    def test_should_accept_what_is_said_to_the_end(self):
+        self.assertEqual(self.check("""
+    /// Moves a node.
+    /// @param name empty for none
+    /// @param way  pixels to the right
+    /// @param deep with what lies in it
+    /// @return null when there is no such node
+    A *move(const QString &name, int way, bool deep);
+
+    /// As its parts want it; never small.
+    QSize sizeHint(const QStyleOption *option,
+                   int much) const override;
+    using B::B;
+
+protected:
+    void event(int much) override;
+
+Q_SIGNALS:
+    /// A node was moved.
+    /// @param name never empty
+    void moved(const QString &name);
+"""), [])
+
+    def test_should_miss_a_meaning(self):
+        for declaration in ("void a();", "Q_SIGNALS:\n    void a();",
+                            "/// Does it.\n    void a(bool way);",
+                            "/// Does it.\n    bool a();"):
+            with self.subTest(declaration=declaration):
+                self.assertEqual(len(self.check(f"    {declaration}\n")), 1)
+        self.assertEqual(len(self.check("", "class A\n{\npublic:\n    int a = 0; ///< a row\n")), 1)
+
+    def test_should_miss_a_unit_a_none_and_what_is_wrong(self):
+        self.assertEqual(self.check("""
+    /// Moves it.
+    /// @param way to the right
+    /// @param by  who asks for it
+    /// @return what was there before
+    QString move(double way, QWidget *by);
+""", "/// A service.\nclass A\n{\npublic:\n"), [
+            "A::move: no unit or range at `way`", "A::move: nothing about none at `by`",
+            "A::move: nothing about none at what it gives",
+            "A::move: nothing about what is wrong"])
 
 
 class Snippets(Tree):
