@@ -65,6 +65,7 @@ void showKeys(QWidget *window)
 }
 //! [keys]
 
+//! [fill]
 /// Something to look at: a title and a switch with two captions.
 void fill(minimal::Overlays *overlays)
 {
@@ -81,6 +82,7 @@ void fill(minimal::Overlays *overlays)
     add(captions, "The first caption", {0, 0});
     add(captions, "The other caption", {0, 0});
 }
+//! [fill]
 
 } // namespace
 
