@@ -7,7 +7,7 @@
 #include "host/initPlugin.h"
 #include "host/kxMainWindowService.h"
 #include "host/kxOverlayService.h"
-#include "overlayeditor/kxServices.h"
+#include "tests/viewer/app/registered.h"
 
 #include <QCoreApplication>
 #include <QIcon>
@@ -27,14 +27,14 @@ void note(const char *event)
 void initPlugin()
 {
     note("initPlugin");
-    auto *windows = kxService<kxMainWindowService>();
+    auto *windows = registered<kxMainWindowService>();
     auto *window = new QWidget(windows->getMainWindow());
     windows->registerModule("Journal", "Scene", window, QString(), QIcon(), "Journal", 0);
-    QObject::connect(kxService<kxOverlayService>(), &kxOverlayService::modelReset, window,
+    QObject::connect(registered<kxOverlayService>(), &kxOverlayService::modelReset, window,
                      [] { note("modelReset"); });
-    QObject::connect(kxService<kxBaseService>(), &kxBaseService::init, window,
+    QObject::connect(registered<kxBaseService>(), &kxBaseService::init, window,
                      [] { note("init"); });
     // What goes with the window still finds the services.
     QObject::connect(window, &QObject::destroyed,
-                     [] { note(kxService<kxOverlayService>() ? "gone" : "gone too late"); });
+                     [] { note(registered<kxOverlayService>() ? "gone" : "gone too late"); });
 }

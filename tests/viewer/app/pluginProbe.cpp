@@ -7,7 +7,7 @@
 #include "host/initPlugin.h"
 #include "host/kxControllerService.h"
 #include "host/kxOverlayService.h"
-#include "overlayeditor/kxServices.h"
+#include "tests/viewer/app/registered.h"
 
 #include <QApplication>
 
@@ -25,8 +25,8 @@ void report()
 {
     const char *signal = SIGNAL(nodesMoved(QRPC::NodeList, QRPC::NodeList, QRPC::NodeList));
     std::fprintf(stderr, "headless %d, trees %d, windows %d\n",
-                 kxService<kxControllerService>()->isHeadless(),
-                 (kxService<kxOverlayService>()->*Countable::count)(signal),
+                 registered<kxControllerService>()->isHeadless(),
+                 (registered<kxOverlayService>()->*Countable::count)(signal),
                  QApplication::topLevelWidgets().size());
 }
 
@@ -34,5 +34,5 @@ void report()
 
 void initPlugin()
 {
-    QObject::connect(kxService<kxBaseService>(), &kxBaseService::init, [] { report(); });
+    QObject::connect(registered<kxBaseService>(), &kxBaseService::init, [] { report(); });
 }
