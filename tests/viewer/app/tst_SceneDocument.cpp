@@ -14,6 +14,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
+#include <limits>
 #include <memory>
 
 using namespace viewer;
@@ -41,6 +42,8 @@ private Q_SLOTS:
     void shouldKeepAllWhenAFileIsBad();
     void shouldBeUnmodifiedWhereItWasSaved();
     void shouldTakeImagesFromTheFoldersOfItsFiles();
+    void shouldTellWhatBecomesOfTheScene();
+    void shouldTellWhatCouldNotBeSavedAsItIs();
     void shouldListRecentFiles();
     void shouldHaveAKeyForEachCommandOnEveryDesktop();
 
@@ -315,6 +318,44 @@ void tst_SceneDocument::shouldTakeImagesFromTheFoldersOfItsFiles()
     QCOMPARE(m_service->getImage(fresh), QDir::current().filePath("x.png"));
 }
 
+void tst_SceneDocument::shouldTellWhatBecomesOfTheScene()
+{
+    QStringList told;
+    const auto list = [this, &told](auto signal, const char *name) {
+        connect(m_document.get(), signal, m_document.get(), [&told, name] { told.append(name); });
+    };
+    list(&SceneDocument::dismissed, "dismissed");
+    list(&SceneDocument::aboutToReplace, "replaced");
+    list(&SceneDocument::pathChanged, "named");
+    list(&SceneDocument::opened, "opened");
+    list(&SceneDocument::saved, "saved");
+    list(&SceneDocument::reported, "reported");
+    m_answers->file = file("a.json");
+    const auto after = [&told](const auto &act) {
+        told.clear();
+        act();
+        return told.join(' ');
+    };
+    QCOMPARE(after([this] { m_document->save(); }), QString("named saved"));
+    QCOMPARE(after([this] { m_document->startNew(); }), QString("dismissed replaced named"));
+    QCOMPARE(after([this] { m_document->open(file("a.json")); }),
+             QString("dismissed replaced named opened"));
+    QCOMPARE(after([this] { m_document->open(file("none.json")); }), QString("dismissed reported"));
+    QCOMPARE(after([this] { m_document->setUnsavedScene(Scene(), {}, {}); }),
+             QString("replaced named"));
+}
+
+void tst_SceneDocument::shouldTellWhatCouldNotBeSavedAsItIs()
+{
+    QSignalSpy reports(m_document.get(), &SceneDocument::reported);
+    const QRPC::NodeId node = m_service->createOverlay(Scene::RootId);
+    m_service->setSize({node}, std::numeric_limits<float>::infinity());
+    m_answers->file = file("a.json");
+    QVERIFY(m_document->save());
+    QCOMPARE(reports.count(), 1);
+    QVERIFY(reports.first().at(1).toString().contains(m_service->getName(node)));
+}
+
 void tst_SceneDocument::shouldListRecentFiles()
 {
     for (int i = 0; i < 10; ++i) {
@@ -326,6 +367,7 @@ void tst_SceneDocument::shouldListRecentFiles()
     const FileActions actions(m_document.get(), &menu);
     const auto *recent = menu.findChild<QMenu *>("openRecent");
     QCOMPARE(recent->actions().size(), 8 + 2);
+    QCOMPARE(m_document->recentFiles().removeDuplicates(), 0);
     QVERIFY(recent->actions().at(0)->text().endsWith("7.json"));
     recent->actions().at(1)->trigger();
     QCOMPARE(m_document->path(), file("9.json"));

@@ -40,6 +40,7 @@ private Q_SLOTS:
     void shouldDragToTheMouse();
     void shouldPutADragBackWhenTheKeyboardGoes();
     void shouldGiveADragUpWithItsScene();
+    void shouldKeepADragOutOfTheNextScene();
     void shouldNudgeWithTheKeysOfTheView();
     void shouldClaimKeysFromShortcuts();
     void shouldShowWhatTheMouseWillDo();
@@ -329,6 +330,17 @@ void tst_ViewEditing::shouldGiveADragUpWithItsScene()
     picture();
     QTest::mouseRelease(view(), Qt::LeftButton, {}, {220, 210});
     QCOMPARE(m_service->history().stack()->count(), 0);
+}
+
+void tst_ViewEditing::shouldKeepADragOutOfTheNextScene()
+{
+    QTest::mousePress(view(), Qt::LeftButton, {}, middleOf(m_first));
+    move({200, 200});
+    m_service->setScene(Scene());
+    m_window->model->clear();
+    m_service->createGroup(Scene::RootId);
+    QCOMPARE(m_service->history().stack()->count(), 1); // rather than a part of the drag
+    QTest::mouseRelease(view(), Qt::LeftButton, {}, {200, 200});
 }
 
 void tst_ViewEditing::shouldNudgeWithTheKeysOfTheView()

@@ -36,6 +36,7 @@ private Q_SLOTS:
     void shouldNotSnapToWhatMovesAlong();
     void shouldMoveByWholePointsBetweenTheLines();
     void shouldNotSnapWithCtrl();
+    void shouldSnapToItsOwnAnchor();
     void shouldMoveStraightWithShift();
     void shouldFollowTheModifiersDuringADrag();
 
@@ -309,6 +310,24 @@ void tst_EditGesture_drags::shouldNotSnapWithCtrl()
     move({353.4, 113.2}, Qt::ControlModifier);
     QCOMPARE(placeOf("c"), QPointF(343.4, 103.2));
     QVERIFY(gesture().guides().isEmpty());
+    move({310, 113}, Qt::ControlModifier); // on a line, by chance
+    QVERIFY(gesture().guides().isEmpty());
+}
+
+void tst_EditGesture_drags::shouldSnapToItsOwnAnchor()
+{
+    service().setPosition(ids("c"), {0.3, 0.6});
+    service().setOffsets({{id("c"), {20, 20}}});
+    select(ids("c"));
+    QPointF middle;
+    for (const DrawnOverlay &overlay : drawnOverlays()) {
+        if (overlay.node == id("c"))
+            middle = overlay.box.center();
+    }
+    const double point = view().geometry.pixelsPerPoint();
+    press(middle);
+    move(middle + QPointF(-20 * point + 3, 20 * point + 2));
+    QCOMPARE(service().getOffset(id("c")), QPointF(0, 0));
 }
 
 void tst_EditGesture_drags::shouldMoveStraightWithShift()

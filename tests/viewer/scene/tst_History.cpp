@@ -31,6 +31,7 @@ private Q_SLOTS:
     void shouldMergeOneGesture();
     void shouldEndAGesture_data();
     void shouldEndAGesture();
+    void shouldEndAGestureByAPause();
     void shouldNotMergeOtherNodesOrProperties();
     void shouldDropAGestureThatEndsWhereItBegan();
     void shouldTakeTheTwoCallsOfAToggleForOneStep();
@@ -308,6 +309,30 @@ void tst_History::shouldEndAGesture()
     QCOMPARE(stack().count(), 2);
     service().undo();
     QCOMPARE(service().getSize(id("a")), 10.0F);
+}
+
+void tst_History::shouldEndAGestureByAPause()
+{
+    OverlayService services[3]; // one pause does for all
+    OverlayService &free = services[0];
+    OverlayService &held = services[1];
+    OverlayService &typed = services[2];
+    const QRPC::NodeList node{free.createOverlay(Scene::RootId)};
+    QCOMPARE(held.createOverlay(Scene::RootId), node.first());
+    QCOMPARE(typed.createOverlay(Scene::RootId), node.first());
+    held.history().setHeld(true);
+    QElapsedTimer pause;
+    pause.start();
+    for (const float size : {10.0F, 11.0F}) {
+        QVERIFY(QTest::qWaitFor([&] { return size < 11.0F || pause.hasExpired(2000); }));
+        free.setSize(node, size);
+        held.setSize(node, size);
+        typed.setText(node, QString::number(size));
+        pause.start();
+    }
+    QCOMPARE(free.history().stack()->count(), 1 + 2);
+    QCOMPARE(held.history().stack()->count(), 1 + 1);
+    QCOMPARE(typed.history().stack()->count(), 1 + 1);
 }
 
 void tst_History::shouldNotMergeOtherNodesOrProperties()
