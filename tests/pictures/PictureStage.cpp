@@ -36,6 +36,13 @@ constexpr int StandingStill = 80; // for so long nothing may change
     std::_Exit(1);
 }
 
+QDir emptied(const QString &folder)
+{
+    QDir dir(folder);
+    dir.removeRecursively();
+    return dir;
+}
+
 QImage grab(const QRect &place)
 {
     QScreen *screen = QGuiApplication::primaryScreen();
@@ -97,8 +104,9 @@ QImage withFewerShades(const QImage &screen, const QRect &part)
 
 PictureStage::PictureStage(const QString &folder)
     : m_folder(QDir(folder).absolutePath())
+    , m_place(emptied(QStringLiteral(SCENES)))
     , m_settings(
-          std::make_unique<QSettings>(m_scenes.filePath("settings.ini"), QSettings::IniFormat))
+          std::make_unique<QSettings>(m_place.filePath("settings.ini"), QSettings::IniFormat))
 {
     QDir().mkpath(scenes().path());
     copyExamples();

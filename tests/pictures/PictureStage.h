@@ -7,7 +7,6 @@
 
 #include <QDir>
 #include <QSettings>
-#include <QTemporaryDir>
 
 #include <functional>
 #include <memory>
@@ -75,10 +74,7 @@ public:
     void dragInView(const QPoint &from, const QPoint &to);
 
     /// The folder of the opened examples, which a picture may change. It is the current one.
-    QDir scenes() const
-    {
-        return QDir(m_scenes.filePath("Northlight Studio/Sheets/Still Life in Grey"));
-    }
+    QDir scenes() const { return QDir(m_place.filePath("Northlight Studio/Still Life in Grey")); }
 
 private:
     void copyExamples() const;
@@ -86,7 +82,7 @@ private:
     QImage whenStill(const QRect &place) const;
 
     QDir m_folder;
-    QTemporaryDir m_scenes;
+    const QDir m_place; // the same each time, because paths are seen
     std::unique_ptr<QSettings> m_settings;
     std::unique_ptr<viewer::ViewerSession> m_session;
     QTreeView *m_tree = nullptr;

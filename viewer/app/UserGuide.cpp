@@ -39,6 +39,20 @@ QString withMarks(QString markdown)
     return markdown;
 }
 
+/// The words that stand in for a picture come to stand in one line: the toolkit shows the picture once
+/// for each line of them.
+QString withShortPictures(QString markdown)
+{
+    static const QRegularExpression words(QStringLiteral("!\\[[^\\]]*\\]\\("));
+    for (QRegularExpressionMatch match = words.match(markdown); match.hasMatch();
+         match = words.match(markdown, match.capturedEnd())) {
+        QString line = match.captured();
+        line.replace(QLatin1Char('\n'), QLatin1Char(' '));
+        markdown.replace(match.capturedStart(), match.capturedLength(), line);
+    }
+    return markdown;
+}
+
 /// The name that links give to a heading.
 QString slug(const QString &heading)
 {
@@ -59,7 +73,7 @@ UserGuide::UserGuide(const QString &markdown, const QString &folder, QObject *pa
     : QTextDocument(parent)
 {
     setBaseUrl(QUrl::fromLocalFile(folder + QLatin1Char('/')));
-    setMarkdown(withMarks(markdown));
+    setMarkdown(withShortPictures(withMarks(markdown)));
     readHeadings();
     layOut();
     layOutTables();
@@ -102,7 +116,9 @@ void UserGuide::layOut()
         QTextBlockFormat format;
         format.setTopMargin(level > 1 ? 1.4 * em : 0);
         format.setBottomMargin(block.textList() ? 0.2 * em : 0.6 * em);
-        format.setLineHeight(120, QTextBlockFormat::ProportionalHeight);
+        // The room between lines would be a fifth of a picture's height.
+        const bool isPicture = block.text().contains(QChar::ObjectReplacementCharacter);
+        format.setLineHeight(isPicture ? 100 : 120, QTextBlockFormat::ProportionalHeight);
         cursor.mergeBlockFormat(format);
     }
 }

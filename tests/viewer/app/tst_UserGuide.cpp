@@ -36,6 +36,8 @@ private Q_SLOTS:
     void shouldKeepParagraphsApart();
     void shouldFitPicturesToThePage();
     void shouldReadEachPictureOnce();
+    void shouldShowEachPictureOnce();
+    void shouldLeaveNoGapBelowPictures();
     void shouldGoToAPage_data();
     void shouldGoToAPage();
     void shouldFollowALinkToAHeading();
@@ -111,6 +113,29 @@ void tst_UserGuide::shouldReadEachPictureOnce()
     QCOMPARE(read().size(), QSize(10, 10));
     QVERIFY(QFile::remove(folder.filePath("a.png")));
     QCOMPARE(read().size(), QSize(10, 10));
+}
+
+void tst_UserGuide::shouldShowEachPictureOnce()
+{
+    const UserGuide guide("# Guide\n\n![one, which\nhas long\nwords](a.png) ![two](b.png)\n",
+                          QString());
+    QCOMPARE(guide.toPlainText().count(QChar::ObjectReplacementCharacter), 2);
+}
+
+void tst_UserGuide::shouldLeaveNoGapBelowPictures()
+{
+    const QTemporaryDir folder;
+    QImage picture(10, 500, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    QVERIFY(picture.save(folder.filePath("a.png")));
+    const UserGuide guide("![a](a.png)\n\nwords\n", folder.path());
+    const QTextBlock words = guide.lastBlock();
+    const auto top = [&guide](const QTextBlock &block) {
+        return guide.documentLayout()->blockBoundingRect(block).top();
+    };
+    const qreal room = top(words) - top(words.previous());
+    QVERIFY2(room >= 500 && room < 540, qPrintable(QString::number(room)));
+    QVERIFY(words.blockFormat().lineHeight() > 100);
 }
 
 /// Ten pages, each longer than the window.
