@@ -42,9 +42,19 @@ int fault(const QString &text)
     return 2;
 }
 
+/// The checks of a module drag with a mouse of their own, for which one platform alone has room.
+void choosePlatform(bool isModule)
+{
+    if (isModule)
+        qputenv("QT_QPA_PLATFORM", "minimal:enable_fonts");
+    else if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
 int runAll(const Options &options)
 {
     const bool isModule = !options.plugin.isEmpty();
+    choosePlatform(isModule);
     const std::unique_ptr<Suite> suite = suiteOf(options);
     if (suite->infos().empty())
         return fault("no check has such a name");
@@ -70,8 +80,6 @@ int runAll(const Options &options)
 /// Runs no application itself: the checks do, each in a process of its own.
 int main(int argc, char **argv)
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));

@@ -122,6 +122,12 @@ void ModuleBench::open(const QString &line)
     log().clear();
 }
 
+void ModuleBench::openShown(const QString &line)
+{
+    open(line);
+    window().show();
+}
+
 QModelIndex ModuleBench::index(QRPC::NodeId id)
 {
     const QModelIndexList found =
@@ -172,6 +178,12 @@ QString ModuleBench::shown()
 void ModuleBench::expectTree()
 {
     expectEqual("the tree", dumpTree(model()), dumpTree(service()));
+}
+
+void ModuleBench::expectSettled()
+{
+    QCoreApplication::processEvents();
+    expectTree();
 }
 
 } // namespace conformance

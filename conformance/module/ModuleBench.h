@@ -64,6 +64,9 @@ public:
     /// is empty afterwards.
     void open(const QString &line);
 
+    /// The same in a window that is shown.
+    void openShown(const QString &line);
+
     QModelIndex index(QRPC::NodeId id);
     QStandardItem &item(QRPC::NodeId id);
 
@@ -89,6 +92,9 @@ public:
 
     /// Fails the check unless the tree shows what the service holds.
     void expectTree();
+
+    /// The same once all that waits in the event loop is done.
+    void expectSettled();
 
 private:
     Application m_application;

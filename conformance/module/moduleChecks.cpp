@@ -8,9 +8,10 @@ namespace conformance {
 ModuleChecks moduleChecks()
 {
     return joined<ModuleBench>({entryChecks(), formChecks(), textChecks(), wiringChecks(),
-                                treeChecks(), itemChecks(), dropChecks(), selectionChecks(),
-                                commandChecks(), keyChecks(), searchChecks(), panelChecks(),
-                                refreshChecks(), editChecks()});
+                                treeChecks(), itemChecks(), dropChecks(), mouseChecks(),
+                                foreignChecks(), randomChecks(), selectionChecks(), commandChecks(),
+                                keyChecks(), searchChecks(), panelChecks(), refreshChecks(),
+                                editChecks(), careChecks()});
 }
 
 } // namespace conformance

@@ -27,6 +27,10 @@ ModuleChecks panelChecks();
 ModuleChecks refreshChecks();
 ModuleChecks editChecks();
 ModuleChecks dropChecks();
+ModuleChecks mouseChecks();
+ModuleChecks foreignChecks();
+ModuleChecks randomChecks();
 ModuleChecks wiringChecks();
+ModuleChecks careChecks();
 
 } // namespace conformance

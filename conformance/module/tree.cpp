@@ -117,6 +117,31 @@ ModuleChecks treeChecks() // NOLINT(readability-function-size)
              Q_EMIT bench.service().nodesAdded({0, 99});
              bench.expectTree();
          }},
+        {"tree.addsOutOfOrder", "Siblings of one list may be announced in any order.",
+         [](ModuleBench &bench) {
+             const struct
+             {
+                 int row;
+                 QRPC::NodeList order;
+             } cases[] = {{0, {6, 5, 4}}, {1, {6, 5, 4}}, {1, {5, 6, 4}}, {1, {6, 4, 5}}};
+             for (const auto &each : cases) {
+                 for (const QRPC::NodeId parent : {1U, 2U}) {
+                     bench.open("g2(a3)");
+                     bench.service().insert(parent, each.row, "x4 y5 z6");
+                     Q_EMIT bench.service().nodesAdded(each.order);
+                     bench.expectTree();
+                 }
+             }
+         }},
+        {"tree.addsEarlierLater", "A sibling may be announced after one that stands behind it.",
+         [](ModuleBench &bench) {
+             bench.open("g2()");
+             bench.service().insert(2, 0, "x3 y4");
+             Q_EMIT bench.service().nodesAdded({4});
+             expectEqual("tree", bench.shown(), QString("g2(y4)"));
+             Q_EMIT bench.service().nodesAdded({3});
+             bench.expectTree();
+         }},
         {"tree.removes", "Removed nodes lose their rows, with all that lies in them.",
          [](ModuleBench &bench) {
              bench.open("a2 g3(b4 h5(c6)) d7");
@@ -138,6 +163,14 @@ ModuleChecks treeChecks() // NOLINT(readability-function-size)
              bench.open("a2 g3(b4 c5)");
              bench.service().deleteNodes({3});
              add(bench, 1, 0, "x3-(y5)");
+             bench.expectTree();
+             bench.service().setName({3, 5}, "new");
+             bench.expectTree();
+             bench.service().setEnabled({3}, true);
+             bench.expectTree();
+             bench.service().moveNodes({5}, 1, 0);
+             bench.expectTree();
+             bench.service().deleteNodes({3});
              bench.expectTree();
          }},
         {"tree.movesWithin", "A moved row stands behind the named sibling.",

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void shouldStopAtTheFirstFailureOnDemand_data();
     void shouldStopAtTheFirstFailureOnDemand();
     void shouldListWithoutALibrary();
+    void shouldHaveItsSubjectsInTheDocument();
     void shouldRefuse_data();
     void shouldRefuse();
     void shouldReportAsJson();
@@ -141,6 +142,19 @@ void tst_conformanceProgram::shouldListWithoutALibrary()
     for (const QString &line : seen.lines)
         names.append(line.simplified().section(' ', 0, 1));
     QCOMPARE(names.removeDuplicates(), 0);
+}
+
+void tst_conformanceProgram::shouldHaveItsSubjectsInTheDocument()
+{
+    QFile document(DOCUMENT);
+    QVERIFY(document.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(document.readAll());
+    const Run seen = run({"--list", "--plugin", "any"});
+    QVERIFY(!seen.lines.isEmpty());
+    for (const QString &line : seen.lines) {
+        const QString subject = line.simplified().section(' ', 1, 1).section('.', 0, 0);
+        QVERIFY2(text.contains('`' + subject + '`'), qPrintable(subject));
+    }
 }
 
 void tst_conformanceProgram::shouldRefuse_data()

@@ -29,12 +29,7 @@ void DragTest::open(const QString &line)
 
 QPoint DragTest::placeOf(QRPC::NodeId node, Edge edge)
 {
-    const QRect viewport = tree().viewport()->rect();
-    const QRect row = tree().visualRect(index(node));
-    if (row.isEmpty())
-        return QPoint(viewport.center().x(), viewport.bottom() - 40);
-    const int y[] = {row.top() + 1, row.center().y(), row.bottom() - 1};
-    return QPoint(row.center().x(), y[edge]);
+    return DropCase::placeOf(tree(), index(node), edge);
 }
 
 void DragTest::selectByMouse(const QRPC::NodeList &nodes)

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "kit/DropCase.h"
 #include "tests/overlayeditor/EditorTest.h"
 
 /// Base of the tests that drag rows of the editor's tree with the real mouse.
@@ -11,8 +12,10 @@ class DragTest : public EditorTest
     Q_OBJECT
 
 protected:
-    /// Where in a row; a drop at an edge goes between two rows.
-    enum Edge { Above, On, Below };
+    using Edge = DropCase::Edge;
+    static constexpr Edge Above = DropCase::Above;
+    static constexpr Edge On = DropCase::On;
+    static constexpr Edge Below = DropCase::Below;
 
     /// Builds the editor and shows its window.
     void open(const QString &line);

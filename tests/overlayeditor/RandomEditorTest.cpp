@@ -13,7 +13,8 @@
 
 void RandomEditorTest::run(quint32 seed)
 {
-    m_random.seed(seed);
+    m_scene = std::make_unique<RandomScene>(
+        &mirrored(), [this] { return allNodes(); }, seed);
     const QAbstractItemModelTester tester(&model(),
                                           QAbstractItemModelTester::FailureReportingMode::Warning);
     QStringList told;
@@ -26,32 +27,6 @@ void RandomEditorTest::run(quint32 seed)
     }
 }
 
-QRPC::NodeId RandomEditorTest::anyNode()
-{
-    const QRPC::NodeList all = allNodes();
-    return all.isEmpty() ? 0 : all.at(int(random(all.size())));
-}
-
-QRPC::NodeId RandomEditorTest::anyContainer()
-{
-    QRPC::NodeList containers{mirrored().getRootNode()};
-    const QRPC::NodeList all = allNodes();
-    for (const QRPC::NodeId id : all) {
-        if (!mirrored().isOverlay(id))
-            containers.append(id);
-    }
-    return containers.at(int(random(containers.size())));
-}
-
-QRPC::NodeList RandomEditorTest::anyNodes()
-{
-    QRPC::NodeList nodes;
-    for (quint32 i = random(5); i > 0; --i)
-        nodes.append(anyNode());
-    nodes.removeAll(0);
-    return nodes;
-}
-
 QString RandomEditorTest::selectSome()
 {
     const QRPC::NodeList nodes = anyNodes();
@@ -61,21 +36,8 @@ QString RandomEditorTest::selectSome()
 
 QString RandomEditorTest::command()
 {
-    static constexpr const char *commands[] = {"createOverlay",
-                                               "createOverlayGroup",
-                                               "createSwitch",
-                                               "deleteOverlays",
-                                               "toggle",
-                                               "switchOn",
-                                               "switchOff",
-                                               "selectAll",
-                                               "deselectAll",
-                                               "invertSelection",
-                                               "createGroupFromSelection",
-                                               "duplicateOverlays"};
-    // A tree that doubles at each second step would soon be too large to be compared.
-    const bool isLarge = allNodes().size() > 60;
-    const char *slot = isLarge ? "deleteOverlays" : commands[random(int(std::size(commands)))];
+    const bool isLarge = m_scene->isLarge();
+    const char *slot = isLarge ? "deleteOverlays" : m_scene->anyCommand();
     if (isLarge)
         call("selectAll");
     call(slot);
@@ -103,45 +65,9 @@ QString RandomEditorTest::edit()
 
 QString RandomEditorTest::filter()
 {
-    const QStringList texts{"", "", "e", "o1", "[a-f]", "*", "nothing of that name"};
-    const QString &text = texts.at(int(random(texts.size())));
+    const QString text = m_scene->anyPattern();
     static_cast<QLineEdit &>(searchBox()).setText(text);
     return "filter " + text;
-}
-
-/// A value is drawn before the nodes that get it, so that a seed means the same with each compiler.
-QString RandomEditorTest::changeOutside()
-{
-    kxOverlayService &service = mirrored();
-    switch (random(6)) {
-    case 0: {
-        const int row = int(random(6)) - 1;
-        const QRPC::NodeId parent = anyContainer();
-        service.moveNodes(anyNodes(), parent, row);
-        return QStringLiteral("outside: move to %1 at %2").arg(parent).arg(row);
-    }
-    case 1:
-        service.deleteNodes(anyNodes());
-        return "outside: delete";
-    case 2: {
-        const QString name = QStringLiteral("o%1").arg(random(100));
-        service.setName(anyNodes(), name);
-        return "outside: rename to " + name;
-    }
-    case 3: {
-        const bool enabled = random(2) == 0;
-        service.setEnabled(anyNodes(), enabled);
-        return QStringLiteral("outside: enable %1").arg(enabled);
-    }
-    case 4:
-        service.groupNodes(anyNodes());
-        return "outside: group";
-    default:
-        if (random(4) > 0)
-            return "outside: nothing";
-        Q_EMIT service.modelReset();
-        return "outside: reset";
-    }
 }
 
 /// What the toolkit's view does with a drag of its own, which needs a mouse: it takes the selected

@@ -3,9 +3,10 @@
 
 #pragma once
 
+#include "kit/RandomScene.h"
 #include "tests/overlayeditor/EditorTest.h"
 
-#include <random>
+#include <memory>
 
 /// Base of the tests that do what a user does in the editor's window, and what others do beside it, in
 /// random order: selections, commands, edits, filters, drops. The class says which service is mirrored,
@@ -19,23 +20,17 @@ protected:
     /// printed with the steps that led to one.
     void run(quint32 seed);
 
-    quint32 random(int below) { return m_random() % quint32(below); }
-
-    /// 0 when there is no node.
-    QRPC::NodeId anyNode();
-
-    /// A group, a switch or the root.
-    QRPC::NodeId anyContainer();
-
-    /// Up to four, with repetitions.
-    QRPC::NodeList anyNodes();
+    quint32 random(int below) { return quint32(m_scene->below(below)); }
+    QRPC::NodeId anyNode() { return m_scene->anyNode(); }
+    QRPC::NodeId anyContainer() { return m_scene->anyContainer(); }
+    QRPC::NodeList anyNodes() { return m_scene->anyNodes(); }
 
     /// The steps; each tells what it did.
     QString selectSome();
     QString command();
     QString edit();
     QString filter();
-    QString changeOutside();
+    QString changeOutside() { return m_scene->changeService(); }
     QString dropOwn();
 
     virtual kxOverlayService &mirrored() = 0;
@@ -50,5 +45,5 @@ protected:
     virtual QString fault() = 0;
 
 private:
-    std::mt19937 m_random;
+    std::unique_ptr<RandomScene> m_scene; // while it runs
 };
