@@ -42,6 +42,7 @@ private Q_SLOTS:
     void shouldTakeOldNoticesAwayWhenTheUserOpensAScene();
     void shouldKeepTheLayoutForTheNextRun();
     void shouldMarkUnsavedChangesInTheTitle();
+    void shouldTellThatItCannotRecord();
     void shouldLeaveAPictureAndQuit();
     void shouldWaitForImagesWithThePicture();
     void shouldFailWhenThePictureCannotBeWritten();
@@ -361,6 +362,17 @@ void tst_ViewerSession::shouldMarkUnsavedChangesInTheTitle()
     QVERIFY(session.window()->isWindowModified());
     QVERIFY(session.document()->save());
     QVERIFY(!session.window()->isWindowModified());
+}
+
+void tst_ViewerSession::shouldTellThatItCannotRecord()
+{
+    const QString script = m_folder->filePath("no/such/folder.js");
+    ViewerSession session(line({"--record", script}), nullptr);
+    session.start();
+    session.overlays()->createGroup(Scene::RootId);
+    QCOMPARE(notices(session).size(), 1);
+    QVERIFY2(notices(session).constFirst().contains(script),
+             qPrintable(notices(session).constFirst()));
 }
 
 void tst_ViewerSession::shouldLeaveAPictureAndQuit()
