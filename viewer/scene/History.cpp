@@ -153,9 +153,9 @@ bool History::mayMerge(Operation operation) const
     return m_held || operation == Operation::SetText || m_sinceLast.elapsed() < LongestPause;
 }
 
-void History::open(const Step &first, Group group)
+void History::open(Step first, Group group)
 {
-    m_open.push_back({first, group, {}, {}});
+    m_open.push_back({std::move(first), group, {}, {}});
     emit opened();
 }
 
@@ -265,7 +265,7 @@ void History::clear()
 {
     endGesture();
     for (OpenGroup &group : m_open)
-        group = {group.sum, group.kind, {}, {}};
+        group = {std::move(group.sum), group.kind, {}, {}};
     m_stack.clear();
     m_stack.setClean();
     emit cleared();

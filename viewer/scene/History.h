@@ -40,7 +40,7 @@ public:
     /// step by operation and nodes instead of by a text. In a group that is a history of its own,
     /// undo and redo take the records of the group back and forth; in any other one there is none.
     enum class Group { Plain, OwnHistory };
-    void open(const Step &first, Group group = Group::Plain);
+    void open(Step first, Group group = Group::Plain);
     void close();
 
     /// In a group: the next record goes on with the last one.

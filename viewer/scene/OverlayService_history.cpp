@@ -169,7 +169,7 @@ StepGroup::StepGroup(OverlayService *service, const QString &text, History::Grou
 {
     Step step;
     step.text = text;
-    m_service->history().open(step, group);
+    m_service->history().open(std::move(step), group);
 }
 
 StepGroup::StepGroup(OverlayService *service, Operation operation, const NodeList &nodes)

@@ -216,7 +216,7 @@ void OverlayService::deleteNodes(const NodeList &nodes)
     Step step = stepOf(Operation::Delete, tops);
     removeFromParents(tops);
     for (const NodeId id : tops)
-        change.keep(m_scene.take(id));
+        change.take(&m_scene, id);
     step.changes.push_back(std::move(change));
     m_history.record(std::move(step));
     announceStructure(&kxOverlayService::nodesRemoved, tops);

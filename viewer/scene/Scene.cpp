@@ -128,19 +128,23 @@ NodeList Scene::keepOneShown(Entry &parent)
     return disabled;
 }
 
-std::vector<Node> Scene::take(NodeId top)
+void Scene::take(NodeId top, Records *records)
 {
-    std::vector<Node> records;
     std::vector<NodeId> pending{top};
     while (!pending.empty()) {
-        const auto it = m_nodes.find(pending.back());
+        records->push_back(m_nodes.extract(pending.back()));
         pending.pop_back();
-        const std::vector<NodeId> &children = it->second.children;
+        const std::vector<NodeId> &children = records->back().mapped().children;
         pending.insert(pending.end(), children.rbegin(), children.rend());
-        records.push_back(std::move(static_cast<Node &>(it->second)));
-        m_nodes.erase(it);
     }
-    return records;
+}
+
+void Scene::putBack(Records *records)
+{
+    m_nodes.reserve(m_nodes.size() + records->size());
+    for (Entries::node_type &record : *records)
+        m_nodes.insert(std::move(record));
+    *records = Records();
 }
 
 void Scene::setName(NodeId id, const QString &name)
@@ -176,7 +180,7 @@ void Scene::startIdsAt(NodeId first)
 {
     const NodeId shift = first - (RootId + 1);
     const auto shifted = [shift](NodeId id) { return id > RootId ? id + shift : id; };
-    std::unordered_map<NodeId, Entry> nodes;
+    Entries nodes;
     nodes.reserve(m_nodes.size());
     for (auto &[id, node] : m_nodes) {
         node.id = shifted(id);

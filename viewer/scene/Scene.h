@@ -18,7 +18,18 @@ namespace viewer {
 /// every edit: links are consistent, and a switch has at most one enabled child.
 class Scene
 {
+    struct Entry : Node
+    {
+        quint64 activeStamp = 0; // m_stamp when `active` was computed
+        bool active = false;
+    };
+    using Entries = std::unordered_map<QRPC::NodeId, Entry>;
+
 public:
+    /// Nodes that are out of the scene for as long as somebody may put them back, in pre-order. They
+    /// are the scene's own, so that nothing is copied on the way.
+    using Records = std::vector<Entries::node_type>;
+
     static constexpr QRPC::NodeId RootId = 1;
 
     Scene();
@@ -60,8 +71,11 @@ public:
     /// nodes that had to be disabled, since they entered a switch which shows another one.
     QRPC::NodeList setChildren(QRPC::NodeId parent, std::vector<QRPC::NodeId> children);
 
-    /// Removes a node without parent with all that lies in it, and returns the records in pre-order.
-    std::vector<Node> take(QRPC::NodeId top);
+    /// Removes a node without parent with all that lies in it, and appends the records to others.
+    void take(QRPC::NodeId top, Records *records);
+
+    /// Takes records in again, as nodes without parent and what lies in them; none are left.
+    void putBack(Records *records);
 
     void setName(QRPC::NodeId id, const QString &name);
 
@@ -83,18 +97,12 @@ public:
     void startIdsAt(QRPC::NodeId first);
 
 private:
-    struct Entry : Node
-    {
-        quint64 activeStamp = 0; // m_stamp when `active` was computed
-        bool active = false;
-    };
-
     Entry &entry(QRPC::NodeId id) { return m_nodes.at(id); }
     QRPC::NodeList keepOneShown(Entry &parent);
     void link(Entry &parent, std::size_t firstRow);
     void unlink(const Entry &parent, std::size_t firstRow);
 
-    mutable std::unordered_map<QRPC::NodeId, Entry> m_nodes;
+    mutable Entries m_nodes;
     QRPC::NodeId m_nextId = RootId + 1;
     quint64 m_stamp = 1; // raised by whatever may change an active state
 };

@@ -144,11 +144,6 @@ std::vector<SceneChange::Place> SceneChange::placesOf(const Scene &scene, const 
     return places;
 }
 
-void SceneChange::keep(std::vector<Node> records)
-{
-    std::move(records.begin(), records.end(), std::back_inserter(m_records));
-}
-
 void SceneChange::noteValue(const Node &node, Property property, const PropertyValue &wanted)
 {
     values.push_back({node.id, property, valueOf(node, property), wanted});
@@ -192,9 +187,9 @@ void SceneChange::apply(Scene *scene, Direction direction)
     if (to.empty()) {
         m_records.reserve(from.size());
         for (const Place &place : from)
-            keep(scene->take(place.node));
+            take(scene, place.node);
     } else if (from.empty()) {
-        putBack(scene);
+        scene->putBack(&m_records);
     }
     const PlacesByParent places = byParent(to);
     for (auto it = places.cbegin(); it != places.cend(); ++it)
@@ -213,14 +208,6 @@ void SceneChange::lift(Scene *scene, const std::vector<Place> &places)
         children.erase(std::remove_if(children.begin(), children.end(), leaves), children.end());
         scene->setChildren(it.key(), std::move(children));
     }
-}
-
-void SceneChange::putBack(Scene *scene)
-{
-    for (Node &record : m_records)
-        scene->add(std::move(record));
-    m_records.clear();
-    m_records.shrink_to_fit();
 }
 
 void SceneChange::applyValues(Scene *scene, Direction direction, bool disabling) const

@@ -68,7 +68,7 @@ public:
     static std::vector<Place> placesOf(const Scene &scene, const QRPC::NodeList &nodes);
 
     /// Nodes that were put into the scene: they have no place before. Nodes that are removed have
-    /// none after; their records follow with keep().
+    /// none after; take() keeps their records.
     std::vector<Place> before;
     std::vector<Place> after;
     std::vector<Value> values;
@@ -76,11 +76,8 @@ public:
     Kind kind() const;
     bool isEmpty() const { return before.empty() && after.empty() && values.empty(); }
 
-    /// Keeps records that were taken out of the scene, in pre-order.
-    void keep(std::vector<Node> records);
-
-    /// The records of the nodes that are not in the scene now.
-    const std::vector<Node> &records() const { return m_records; }
+    /// Takes a node without parent out of the scene, with all that lies in it, and keeps it.
+    void take(Scene *scene, QRPC::NodeId top) { scene->take(top, &m_records); }
 
     /// Notes a value before it is changed to the wanted one.
     void noteValue(const Node &node, Property property, const PropertyValue &wanted);
@@ -93,10 +90,9 @@ public:
 
 private:
     void lift(Scene *scene, const std::vector<Place> &places);
-    void putBack(Scene *scene);
     void applyValues(Scene *scene, Direction direction, bool disabling) const;
 
-    std::vector<Node> m_records;
+    Scene::Records m_records;
 };
 
 } // namespace viewer

@@ -39,9 +39,13 @@ enum class Operation {
 };
 
 /// One step of the history: what the user did, to which nodes, and the changes that it came to, in
-/// order. A plain value; made by the service, kept by the history.
+/// order. Made by the service, kept by the history.
 struct Step
 {
+    Step() = default;
+    Step(Step &&) = default;
+    Step &operator=(Step &&) = default;
+
     Operation operation = Operation::Move;
     QRPC::NodeList nodes; ///< that the operation was asked to change
     QString subject;      ///< the name of the node when it was a single one
