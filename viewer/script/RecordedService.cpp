@@ -3,6 +3,8 @@
 
 #include "viewer/script/RecordedService.h"
 
+#include "viewer/scene/SceneReader.h"
+#include "viewer/scene/SceneWriter.h"
 #include "viewer/script/ScriptText.h"
 
 #include <QDir>
@@ -133,6 +135,18 @@ void RecordedService::write(const QString &lines)
         emit recordingFailed(
             tr("The recording \"%1\" cannot be written: %2")
                 .arg(QDir::toNativeSeparators(m_script.fileName()), m_script.errorString()));
+}
+
+NodeList RecordedService::insertScene(const Scene &scene, NodeId parent, int row)
+{
+    const QByteArray text = SceneWriter::content(scene, QString(), nullptr);
+    const SceneReading reading = SceneReader::parse(text, QString());
+    if (!reading.scene)
+        return {}; // nested deeper than a file may be
+    const Call call(this, QStringLiteral("history.paste(%1, %2, %3);\n")
+                              .arg(scripttext::write(QString::fromUtf8(text)),
+                                   scripttext::write(parent), scripttext::write(row)));
+    return OverlayService::insertScene(*reading.scene, parent, row);
 }
 
 NodeId RecordedService::createOverlay(NodeId parent)

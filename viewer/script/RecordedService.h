@@ -15,8 +15,9 @@ namespace viewer {
 /// run that is recorded; GUI thread only.
 ///
 /// A script belongs to one scene: with the next one that is opened, a script of its own begins beside
-/// the first, which is numbered. Each line is in the file as soon as it is done. Colours are taken as
-/// precisely as scripts and files write them, so that a replay finds the same ones.
+/// the first, which is numbered. Each line is in the file as soon as it is done. Colours and
+/// pasted scenes are taken as precisely as scripts and files write them, so that a replay finds the
+/// same ones.
 class RecordedService : public OverlayService
 {
     Q_OBJECT
@@ -28,6 +29,8 @@ public:
 
     /// The scene file that the next script is of; empty for none.
     void setScenePath(const QString &path) { m_scenePath = path; }
+
+    QRPC::NodeList insertScene(const Scene &scene, QRPC::NodeId parent, int row) override;
 
     QRPC::NodeId createOverlay(QRPC::NodeId parent) override;
     QRPC::NodeId createGroup(QRPC::NodeId parent) override;

@@ -166,6 +166,7 @@ const std::vector<ScriptOperation> &scriptOperations()
         step("end", &ScriptSteps::end),
         step("cancel", &ScriptSteps::cancel),
         step("join", &ScriptSteps::join),
+        step("paste", &ScriptSteps::paste, {{"scene"}, {"parent"}, {"row"}}),
         step("recordedAt", &ScriptSteps::recordedAt, {{"next"}}),
     };
     return table;

@@ -3,6 +3,10 @@
 
 #include "viewer/script/ScriptSteps.h"
 
+#include "viewer/scene/SceneReader.h"
+
+#include <QDir>
+
 namespace viewer {
 
 using QRPC::NodeId;
@@ -66,6 +70,13 @@ bool ScriptSteps::cancel()
 void ScriptSteps::join()
 {
     m_service->history().joinNext();
+}
+
+bool ScriptSteps::paste(const QString &scene, NodeId parent, int row)
+{
+    const QString place = QDir(m_service->imageFolder()).filePath(QStringLiteral("pasted"));
+    const SceneReading reading = SceneReader::parse(scene.toUtf8(), place);
+    return reading.scene && !m_service->insertScene(*reading.scene, parent, row).isEmpty();
 }
 
 void ScriptSteps::recordedAt(NodeId next)

@@ -40,6 +40,9 @@ public:
     /// The next operation that changes something belongs to the last step.
     void join();
 
+    /// Puts the overlays of a scene, given as the text of its file, before the child at a row.
+    bool paste(const QString &scene, QRPC::NodeId parent, int row);
+
     /// The ids in the script are those of a run in which `next` was the id of the next new node.
     void recordedAt(QRPC::NodeId next);
 
