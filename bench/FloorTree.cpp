@@ -57,6 +57,30 @@ void FloorTree::removeEverySecond()
         qDeleteAll(m_model.takeRow(row));
 }
 
+void FloorTree::appendCopies(QTreeView *view)
+{
+    const int count = m_model.rowCount();
+    for (int row = 0; row < count; ++row)
+        m_model.appendRow(m_model.item(row)->clone());
+    const QModelIndex last = m_model.index(2 * count - 1, 0);
+    view->scrollTo(last);
+    view->selectionModel()->select(QItemSelection(m_model.index(count, 0), last),
+                                   QItemSelectionModel::ClearAndSelect);
+}
+
+void FloorTree::removeBehind(int rows)
+{
+    while (m_model.rowCount() > rows)
+        qDeleteAll(m_model.takeRow(m_model.rowCount() - 1));
+}
+
+void FloorTree::moveToFront(int rows)
+{
+    const int first = m_model.rowCount() - rows;
+    for (int i = 0; i < rows; ++i)
+        m_model.insertRow(i, m_model.takeRow(first + i));
+}
+
 void FloorTree::renameAll()
 {
     for (QStandardItem *item : qAsConst(m_items))

@@ -39,6 +39,15 @@ public:
     /// Inserts a copy behind each top-level row; the copies are selected and the last is shown.
     void duplicateAll(QTreeView *view);
 
+    /// Appends a copy of each top-level row; the copies are selected and the last is shown.
+    void appendCopies(QTreeView *view);
+
+    /// Removes the rows behind the first ones, one by one.
+    void removeBehind(int rows);
+
+    /// Moves the last rows to the front, one by one.
+    void moveToFront(int rows);
+
 private:
     QStandardItem *createItem(const viewer::Node &node);
     void setActive(QStandardItem *item, bool active);

@@ -4,98 +4,17 @@
 // How long commands on many nodes take, from the slot of the editor to the idle window, beside the
 // same rows and selection in a plain tree view. Prints a table of docs/PERFORMANCE.md.
 
-#include "bench/FloorTree.h"
+#include "bench/EditorCase.h"
 #include "bench/Sides.h"
-#include "bench/TreeCase.h"
-#include "host/kxKernelServiceFactory.h"
-#include "kit/HostFixture.h"
 #include "kit/widgets.h"
-#include "overlayeditor/kxOverlayEditor.h"
-#include "overlayeditor/kxOverlayEditorGUIW.h"
 
 #include <QRegExp>
 
 #include <functional>
-#include <memory>
 #include <string>
 #include <vector>
 
 namespace {
-
-enum class Picked { None, Half, All };
-
-/// How the tree stands before a command.
-struct Start
-{
-    Shape shape = Shape::Flat;
-    bool expanded = false;
-    Picked picked = Picked::None;
-};
-
-/// Selects every row or every second one, among siblings that are shown.
-void pick(QTreeView *view, const Start &start)
-{
-    if (start.expanded)
-        view->expandAll();
-    QItemSelection picked;
-    const QAbstractItemModel *model = view->model();
-    const std::function<void(const QModelIndex &)> walk = [&](const QModelIndex &parent) {
-        const int step = start.picked == Picked::Half ? 2 : 1;
-        for (int row = 0; row < model->rowCount(parent); row += step) {
-            const QModelIndex index = model->index(row, 0, parent);
-            picked.append(QItemSelectionRange(index));
-            if (start.expanded)
-                walk(index);
-        }
-    };
-    if (start.picked == Picked::All && !start.expanded)
-        picked.select(model->index(0, 0), model->index(model->rowCount() - 1, 0));
-    else if (start.picked != Picked::None)
-        walk(QModelIndex());
-    view->selectionModel()->select(picked, QItemSelectionModel::ClearAndSelect);
-    QCoreApplication::processEvents();
-}
-
-/// A host, the viewer's service and the editor's window over it.
-struct Editor
-{
-    Editor(const Start &start, int size) : tree(start.shape, size)
-    {
-        Q_EMIT tree.service()->modelReset();
-        host.mainWindow().resize(900, 800);
-        host.mainWindow().show();
-        host.registrations().last().window->show();
-        view = host.registrations().last().window->findChild<QTreeView *>();
-        QCoreApplication::processEvents();
-        pick(view, start);
-    }
-
-    void call(const char *slot) { QMetaObject::invokeMethod(&editor, slot); }
-
-    HostFixture host;
-    TreeCase tree;
-    kxOverlayEditor editor;
-    QTreeView *view = nullptr;
-};
-
-/// The plain tree in the same state.
-struct Plain
-{
-    Plain(const Start &start, int size)
-        : tree(start.shape, size)
-        , floor(tree.service()->scene())
-        , view(makeView(true, floor.model()))
-    {
-        floor.fill();
-        QCoreApplication::processEvents();
-        pick(view.get(), start);
-    }
-
-    HostFixture host;
-    TreeCase tree;
-    FloorTree floor;
-    std::unique_ptr<QTreeView> view;
-};
 
 struct Command
 {
