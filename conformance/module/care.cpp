@@ -231,7 +231,8 @@ void expectFewRefreshes(ModuleBench &bench, const std::function<void()> &action)
     expectEqual("values read, at most three for a node", qMax(count, 3 * many), 3 * many);
 }
 
-ModuleChecks costChecks()
+// One table, long as it has an entry for each check.
+ModuleChecks costChecks() // NOLINT(readability-function-size)
 {
     return {
         {"cost.removal", "The panel is refreshed in proportion to a removal of many nodes.",
@@ -251,6 +252,24 @@ ModuleChecks costChecks()
              openMany(bench);
              bench.select({});
              expectFewRefreshes(bench, [&bench] { bench.call("selectAll"); });
+         }},
+        {"cost.order", "The panel reads the values of a selection in this order.",
+         [](ModuleBench &bench) {
+             bench.open("a2");
+             QStringList read;
+             const QStringList calls = bench.callsOf([&bench] {
+                 bench.tree().selectionModel()->select(bench.index(2), QItemSelectionModel::Select);
+             });
+             for (const QString &call : calls) {
+                 const QString getter = call.section(' ', 0, 0);
+                 if (getter.startsWith("get") && getter != "getRootNode" && !read.contains(getter))
+                     read.append(getter);
+             }
+             expectEqual(
+                 "values", read,
+                 QStringList({"getName", "getOverlayType", "getText", "getFont", "getFontColor",
+                              "getBackgroundColor", "getBackgroundTransparency", "getSizeType",
+                              "getSize", "getPosition", "getOffset"}));
          }},
         {"cost.creation", "The panel is refreshed in proportion to many created nodes.",
          [](ModuleBench &bench) {

@@ -12,8 +12,10 @@
 #include <QAbstractSlider>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QImage>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QTemporaryDir>
 #include <QTimer>
 
 namespace conformance {
@@ -243,6 +245,26 @@ ModuleChecks imageChecks() // NOLINT(readability-function-size)
              expectEqual("title", title, QString("Load Texture"));
              expectEqual("filters", filters, QStringList({"Pictures (*.png)", "All (*)"}));
              expect("the window is the parent", parent == &bench.window());
+         }},
+        {"image.chosen", "A chosen file is sent once, to the whole selection.",
+         [](ModuleBench &bench) {
+             const QTemporaryDir folder;
+             const QString path = folder.filePath("chosen.png");
+             expect("there is a file", QImage(2, 2, QImage::Format_RGB32).save(path));
+             openImage(bench);
+             QTimer::singleShot(0, &bench.window(), [path] {
+                 auto *dialog =
+                     qobject_cast<QKXImageFileDialog *>(QApplication::activeModalWidget());
+                 if (dialog) {
+                     if (auto *field = dialog->findChild<QLineEdit *>("fileNameEdit"))
+                         field->setText(path);
+                     static_cast<QDialog *>(dialog)->accept();
+                 }
+             });
+             const QStringList calls = bench.commandsOf([&bench] {
+                 Q_EMIT bench.form<QKXTextureControls>("_image_edit").clickedLoadTexture();
+             });
+             expect("the file is sent", calls.contains("setImage [2,3] \"" + path + '"'));
          }},
         {"image.cancel", "A cancelled dialog changes nothing.",
          [](ModuleBench &bench) {

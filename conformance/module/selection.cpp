@@ -171,6 +171,19 @@ ModuleChecks changeChecks() // NOLINT(readability-function-size)
              bench.call("invertSelection");
              expectEqual("selection", bench.selected(), Nodes({3, 5, 6}));
          }},
+        {"selection.invertEach", "Every selection of five rows is inverted to all the others.",
+         [](ModuleBench &bench) {
+             for (unsigned picked = 0; picked < 32; ++picked) {
+                 bench.open("a2 b3 c4 g5(d6)");
+                 QRPC::NodeList inside;
+                 QRPC::NodeList outside;
+                 for (unsigned i = 0; i < 5; ++i)
+                     ((picked >> i) % 2 == 1 ? inside : outside).append(i + 2);
+                 bench.select(inside);
+                 bench.call("invertSelection");
+                 expectEqual("selection", bench.selected(), outside);
+             }
+         }},
         {"selection.invertNone", "Inverting no selection selects everything, and back.",
          [](ModuleBench &bench) {
              bench.open("a2 b3");

@@ -150,6 +150,14 @@ ModuleChecks treeChecks() // NOLINT(readability-function-size)
              bench.service().deleteNodes({3, 7});
              bench.expectTree();
          }},
+        {"tree.othersStayOpen", "Rows that stay are left open when others go.",
+         [](ModuleBench &bench) {
+             bench.open("g2(a3 h4(b5)) i6(c7)");
+             bench.service().deleteNodes({3});
+             bench.service().moveNodes({7}, 1, 0);
+             for (const QRPC::NodeId node : {2, 4})
+                 expect("the group is open", bench.tree().isExpanded(bench.index(node)));
+         }},
         {"tree.removesUnknown", "Ids without a row are skipped by a removal.",
          [](ModuleBench &bench) {
              bench.open("a2 b3");
