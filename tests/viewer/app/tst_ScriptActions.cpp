@@ -171,9 +171,9 @@ void tst_ScriptActions::shouldEndAnEndlessScript()
     timer.start(10);
     run(script);
     QCOMPARE(notices().size(), 1);
-    QVERIFY2(
-        notices().constFirst().endsWith("titles.js\" was interrupted.\nThe scene is as it was before."),
-        qPrintable(notices().constFirst()));
+    QVERIFY2(notices().constFirst().endsWith(
+                 "titles.js\" was interrupted.\nThe scene is as it was before."),
+             qPrintable(notices().constFirst()));
     QCOMPARE(m_service->getChildCount(1), 0);
     QVERIFY(!m_service->history().stack()->canUndo());
 }
