@@ -183,6 +183,7 @@ void tst_viewer_reorder::listShortcuts()
     auto *dialog = session()->window()->findChild<QDialog *>("keyboardShortcuts");
     QVERIFY(dialog);
     QVERIFY(becomesActive(dialog));
+    QCOMPARE(QApplication::focusWidget(), dialog->findChild<QLineEdit *>());
     auto *list = dialog->findChild<QTreeWidget *>();
     QCOMPARE(list->topLevelItemCount(), 2);
     QCOMPARE(list->topLevelItem(1)->text(0), QString("Overlay Editor"));

@@ -29,11 +29,13 @@ private:
 };
 
 /// Waits until a shown window has the keyboard. Asks for it again and again: on a busy machine the
-/// window manager may have passed the window over.
+/// window manager may have passed the window over. The toolkit's own wait is over too early: it takes
+/// a dialog for active while its parent still is.
 inline bool becomesActive(QWidget *window)
 {
+    const auto isActive = [window] { return QApplication::activeWindow() == window; };
     for (int seconds = 0; seconds < 30; ++seconds) {
-        if (QTest::qWaitForWindowActive(window, 1000))
+        if (QTest::qWaitFor(isActive, 1000))
             return true;
         window->activateWindow();
     }
