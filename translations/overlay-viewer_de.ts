@@ -449,6 +449,18 @@ Ein Lauf ohne Fenster gibt zurück:
         <source>The option --record needs a window: a run without one has nobody to record.</source>
         <translation>Die Option --record braucht ein Fenster: Ohne gibt es niemanden, der etwas tut.</translation>
     </message>
+    <message>
+        <source>The name of the scene is empty.</source>
+        <translation>Der Name der Szene ist leer.</translation>
+    </message>
+    <message>
+        <source>The option --screenshot needs a window: --export saves a picture without one.</source>
+        <translation>Die Option --screenshot braucht ein Fenster: --export speichert ein Bild ohne Fenster.</translation>
+    </message>
+    <message>
+        <source>The option --%1 can be given only once.</source>
+        <translation>Die Option --%1 kann nur einmal angegeben werden.</translation>
+    </message>
 </context>
 <context>
     <name>viewer::EditLayer</name>
@@ -616,20 +628,30 @@ Ein Lauf ohne Fenster gibt zurück:
         <translation>„%1“ wird nach %2 s noch gezeichnet.</translation>
     </message>
     <message>
-        <source>Warning: the image &quot;%1&quot; cannot be read; a placeholder stands for it.</source>
-        <translation>Warnung: Das Bild „%1“ kann nicht gelesen werden; dafür steht ein Platzhalter.</translation>
-    </message>
-    <message>
-        <source>Warning: the image &quot;%1&quot; cannot be read, but is not shown either.</source>
-        <translation>Warnung: Das Bild „%1“ kann nicht gelesen werden, wird aber auch nicht gezeigt.</translation>
-    </message>
-    <message>
         <source>its format knows no transparency, as PNG does</source>
         <translation>das Format kennt anders als PNG keine Transparenz</translation>
     </message>
     <message>
         <source>Still reading the images of &quot;%1&quot; after %2 s.</source>
         <translation>Die Bilder von „%1“ werden nach %2 s noch gelesen.</translation>
+    </message>
+    <message>
+        <source>Warning: the image &quot;%1&quot; of %2 cannot be read, but is not shown either.</source>
+        <translation>Warnung: Das Bild „%1“ von %2 kann nicht gelesen werden, wird aber auch nicht gezeigt.</translation>
+    </message>
+    <message>
+        <source>Warning: the image &quot;%1&quot; of %2 cannot be read; a placeholder stands for it.</source>
+        <translation>Warnung: Das Bild „%1“ von %2 kann nicht gelesen werden; dafür steht ein Platzhalter.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <comment>the name of an overlay</comment>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between names</comment>
+        <translation>, </translation>
     </message>
 </context>
 <context>

@@ -449,6 +449,18 @@ A headless run returns:
         <source>The option --record needs a window: a run without one has nobody to record.</source>
         <translation>选项 --record 需要窗口：没有窗口就没有可录制的操作。</translation>
     </message>
+    <message>
+        <source>The name of the scene is empty.</source>
+        <translation>场景的名称为空。</translation>
+    </message>
+    <message>
+        <source>The option --screenshot needs a window: --export saves a picture without one.</source>
+        <translation>选项 --screenshot 需要窗口：--export 可在没有窗口时保存图片。</translation>
+    </message>
+    <message>
+        <source>The option --%1 can be given only once.</source>
+        <translation>选项 --%1 只能给出一次。</translation>
+    </message>
 </context>
 <context>
     <name>viewer::EditLayer</name>
@@ -616,20 +628,30 @@ A headless run returns:
         <translation>%2 秒后仍在绘制“%1”。</translation>
     </message>
     <message>
-        <source>Warning: the image &quot;%1&quot; cannot be read; a placeholder stands for it.</source>
-        <translation>警告：无法读取图像“%1”，已用占位图代替。</translation>
-    </message>
-    <message>
-        <source>Warning: the image &quot;%1&quot; cannot be read, but is not shown either.</source>
-        <translation>警告：无法读取图像“%1”，但它也未被显示。</translation>
-    </message>
-    <message>
         <source>its format knows no transparency, as PNG does</source>
         <translation>该格式不支持透明，PNG 则支持</translation>
     </message>
     <message>
         <source>Still reading the images of &quot;%1&quot; after %2 s.</source>
         <translation>%2 秒后仍在读取“%1”的图像。</translation>
+    </message>
+    <message>
+        <source>Warning: the image &quot;%1&quot; of %2 cannot be read, but is not shown either.</source>
+        <translation>警告：无法读取 %2 的图像“%1”，但它也未被显示。</translation>
+    </message>
+    <message>
+        <source>Warning: the image &quot;%1&quot; of %2 cannot be read; a placeholder stands for it.</source>
+        <translation>警告：无法读取 %2 的图像“%1”，已用占位图代替。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <comment>the name of an overlay</comment>
+        <translation>“%1”</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between names</comment>
+        <translation>、</translation>
     </message>
 </context>
 <context>

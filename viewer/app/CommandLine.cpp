@@ -66,9 +66,26 @@ CommandLine::CommandLine(const QStringList &arguments)
     screenshot = parser.value(picture);
     withoutGl = parser.isSet(noGl);
     if (outcome == Outcome::Run)
+        checkValues(parser);
+    if (outcome == Outcome::Run)
         readHeadless(parser);
     if (outcome == Outcome::Run)
         readScripts(parser);
+}
+
+// A batch run would go on without what an unset variable was to name, or with the last of two files.
+void CommandLine::checkValues(const QCommandLineParser &parser)
+{
+    if (parser.positionalArguments().contains(QString()))
+        fail(tr("The name of the scene is empty."));
+    for (const char *option : {"scene", "script", "record", "save", "export", "size", "dpi"}) {
+        const QString name = QString::fromLatin1(option);
+        const QStringList values = parser.values(name);
+        if (values.contains(QString()))
+            fail(tr("The option --%1 needs a value.").arg(name));
+        else if (values.size() > 1)
+            fail(tr("The option --%1 can be given only once.").arg(name));
+    }
 }
 
 void CommandLine::addHeadlessOptions(QCommandLineParser *parser)
@@ -111,10 +128,9 @@ void CommandLine::readHeadless(const QCommandLineParser &parser)
         const QString name = QString::fromLatin1(option);
         if (!headless.isOn && parser.isSet(name))
             fail(tr("The option --%1 needs --headless.").arg(name));
-        else if (name != QLatin1String("transparent") && parser.isSet(name)
-                 && parser.value(name).isEmpty())
-            fail(tr("The option --%1 needs a value.").arg(name));
     }
+    if (headless.isOn && !screenshot.isEmpty())
+        fail(tr("The option --screenshot needs a window: --export saves a picture without one."));
     if (parser.isSet(QStringLiteral("scene"))) {
         if (!scene.isEmpty())
             fail(tr("Only one scene can be opened."));
@@ -130,11 +146,6 @@ void CommandLine::readScripts(const QCommandLineParser &parser)
 {
     script = parser.value(QStringLiteral("script"));
     record = parser.value(QStringLiteral("record"));
-    for (const char *option : {"script", "record"}) {
-        const QString name = QString::fromLatin1(option);
-        if (parser.isSet(name) && parser.value(name).isEmpty())
-            fail(tr("The option --%1 needs a value.").arg(name));
-    }
     if (headless.isOn && !record.isEmpty())
         fail(tr("The option --record needs a window: a run without one has nobody to record."));
 }
@@ -180,8 +191,11 @@ QStringList CommandLine::takePlugins(int *count, char **arguments)
     return taken;
 }
 
+// The first fault is told: others may follow from it.
 void CommandLine::fail(const QString &reason)
 {
+    if (outcome == Outcome::Fault)
+        return;
     outcome = Outcome::Fault;
     text =
         QStringLiteral("%1: %2\n%3\n")

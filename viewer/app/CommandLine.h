@@ -52,6 +52,7 @@ public:
 private:
     static void addHeadlessOptions(QCommandLineParser *parser);
     static QString exitCodes();
+    void checkValues(const QCommandLineParser &parser);
     void readHeadless(const QCommandLineParser &parser);
     void readScripts(const QCommandLineParser &parser);
     void readSize(const QString &given);

@@ -9,6 +9,7 @@
 #include "viewer/app/OverlayLayer.h"
 #include "viewer/app/PictureFile.h"
 #include "viewer/app/ProgressReport.h"
+#include "viewer/scene/NodeLists.h"
 #include "viewer/scene/SceneReader.h"
 #include "viewer/scene/SceneWriter.h"
 #include "viewer/script/ScriptRun.h"
@@ -17,16 +18,16 @@
 #include <QDir>
 #include <QImageReader>
 #include <QImageWriter>
-#include <QMap>
 #include <QPainter>
 
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
 namespace viewer {
 
 namespace {
+
+constexpr double MetersPerInch = 0.0254;
 
 void tell(const QString &text)
 {
@@ -169,15 +170,21 @@ QString HeadlessRun::writePicture(const QString &file)
     const bool isKnown = QImageWriter::supportedImageFormats().contains(format);
     if (m_line.headless.isTransparent && isKnown && !keepsTransparency(format))
         return tr("its format knows no transparency, as PNG does");
-    const QImage image = picture();
-    return image.isNull() ? tr("it needs too much memory") : savePicture(image, file);
+    QImage image = picture();
+    if (image.isNull())
+        return tr("it needs too much memory");
+    // So that it is printed in the size that its points tell.
+    const int dotsPerMeter = qRound(m_line.headless.dpi / MetersPerInch);
+    image.setDotsPerMeterX(dotsPerMeter);
+    image.setDotsPerMeterY(dotsPerMeter);
+    return savePicture(image, file);
 }
 
-/// The files that cannot be read, and whether an overlay shows them.
-QMap<QString, bool> HeadlessRun::unreadableImages()
+/// The files that cannot be read, and which overlays have them.
+QMap<QString, HeadlessRun::UnreadableImage> HeadlessRun::unreadableImages()
 {
     const Scene &scene = overlays()->scene();
-    QMap<QString, bool> files;
+    QMap<QString, UnreadableImage> files;
     scene.forEach([this, &scene, &files](const Node &node) {
         const QString &path = node.overlay.image;
         if (!node.isOverlay() || node.overlay.isText() || path.isEmpty())
@@ -187,7 +194,7 @@ QMap<QString, bool> HeadlessRun::unreadableImages()
         const bool isReadable = isShown ? !m_images.image(path).isNull()
                                         : QFileInfo(path).isFile() && QImageReader(path).canRead();
         if (!isReadable)
-            files[path] |= isShown;
+            (isShown ? files[path].shownBy : files[path].keptBy).append(node.id);
     });
     return files;
 }
@@ -196,15 +203,34 @@ HeadlessRun::ExitCode HeadlessRun::reportUnreadableImages()
 {
     const ProgressReport progress(tr("Still reading the images of \"%1\" after %2 s."),
                                   m_line.scene);
-    const QMap<QString, bool> files = unreadableImages();
+    const QMap<QString, UnreadableImage> files = unreadableImages();
+    ExitCode code = Done;
     for (auto file = files.begin(); file != files.end(); ++file) {
         const QString shown = QDir::toNativeSeparators(file.key());
-        tell(*file ? tr("Warning: the image \"%1\" cannot be read; a placeholder stands for it.")
-                         .arg(shown)
-                   : tr("Warning: the image \"%1\" cannot be read, but is not shown either.")
-                         .arg(shown));
+        if (!file->shownBy.isEmpty())
+            code = ImageMissing;
+        tell(
+            file->shownBy.isEmpty()
+                ? tr("Warning: the image \"%1\" of %2 cannot be read, but is not shown either.")
+                      .arg(shown, listed(file->keptBy))
+                : tr("Warning: the image \"%1\" of %2 cannot be read; a placeholder stands for it.")
+                      .arg(shown, listed(file->shownBy)));
     }
-    return std::find(files.begin(), files.end(), true) != files.end() ? ImageMissing : Done;
+    return code;
+}
+
+/// The names of overlays on one line, the first ones of many.
+QString HeadlessRun::listed(const QRPC::NodeList &nodes)
+{
+    constexpr int most = 4;
+    const QRPC::NodeList ordered = inTreeOrder(overlays()->scene(), nodes);
+    const QRPC::NodeList first = ordered.mid(0, most);
+    QStringList names;
+    for (const QRPC::NodeId node : first)
+        names += tr("\"%1\"", "the name of an overlay").arg(overlays()->getName(node).simplified());
+    if (ordered.size() > most)
+        names += QString(QChar(0x2026));
+    return names.join(tr(", ", "between names"));
 }
 
 } // namespace viewer

@@ -8,6 +8,8 @@
 #include "viewer/render/ImageCache.h"
 #include "viewer/render/OverlayPainter.h"
 
+#include <QMap>
+
 namespace viewer {
 
 /// One run of the viewer without window: loads modules and a scene, writes what the command line
@@ -43,6 +45,13 @@ public:
     OverlayService *overlays() { return m_services.overlays(); }
 
 private:
+    /// The overlays that have a file which cannot be read.
+    struct UnreadableImage
+    {
+        QRPC::NodeList shownBy;
+        QRPC::NodeList keptBy; ///< those that are not shown
+    };
+
     ExitCode loadModules();
     ExitCode openScene();
     ExitCode runScript();
@@ -50,7 +59,8 @@ private:
     ExitCode exportPicture();
     QString writePicture(const QString &file);
     ExitCode reportUnreadableImages();
-    QMap<QString, bool> unreadableImages();
+    QMap<QString, UnreadableImage> unreadableImages();
+    QString listed(const QRPC::NodeList &nodes);
 
     const CommandLine m_line;
     HostServices m_services{nullptr};

@@ -78,10 +78,9 @@ void InterruptWatch::watch(int pipe) const
         return;
     m_interrupt();
     pollfd next = {pipe, POLLIN, 0};
-    if (::poll(&next, 1, Patience) == 0)
+    // The same signal is not handled any more, but the other one is.
+    if (::poll(&next, 1, Patience) != 1 || readFrom(pipe) != Over)
         m_giveUp();
-    // The next signal is not handled any more, so what comes is the end.
-    readFrom(pipe);
 }
 
 } // namespace viewer

@@ -11,15 +11,15 @@
 namespace viewer {
 
 /// Turns the first SIGINT or SIGTERM that the process gets into a call, and into another one where
-/// the work goes on all the same; the next signal ends the process as ever. One at a time, in runs
-/// without window.
+/// the work goes on all the same. A second signal of the same kind ends the process as ever, one of the
+/// other kind makes the second call at once. One at a time, in runs without window.
 class InterruptWatch
 {
 public:
     using Call = std::function<void()>;
 
     /// Both are called on a thread of the watch's own: `interrupt` at once, `giveUp` when the watch is
-    /// still there two seconds later.
+    /// still there two seconds later. The latter does not come back.
     InterruptWatch(Call interrupt, Call giveUp);
     ~InterruptWatch();
     Q_DISABLE_COPY(InterruptWatch)

@@ -41,9 +41,27 @@ int answer(const viewer::CommandLine &line)
     return fault ? 2 : 0;
 }
 
+// With a value too, so that it is refused where there is no display.
 bool isHeadless(const char *argument)
 {
-    return std::strcmp(argument, "--headless") == 0;
+    constexpr char option[] = "--headless";
+    return std::strncmp(argument, option, sizeof option - 1) == 0;
+}
+
+QtMessageHandler s_formerHandler = nullptr;
+
+// The toolkit tells of each batch job that it belongs to no session, which is nothing to be told of.
+void tellAllButOfTheSession(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    if (!text.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")))
+        s_formerHandler(type, context, text);
+}
+
+// Pixmaps and fonts need a GUI application, and a batch run has no display for one.
+void doWithoutDisplay()
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    s_formerHandler = qInstallMessageHandler(tellAllButOfTheSession);
 }
 
 viewer::Language chooseLanguage()
@@ -78,9 +96,8 @@ int main(int argc, char **argv)
         return answer(viewer::CommandLine(QCoreApplication::arguments()));
     }
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    // Pixmaps and fonts need a GUI application, and a batch run has no display for one.
     if (std::any_of(argv + 1, argv + argc, isHeadless))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        doWithoutDisplay();
     const QStringList plugins = viewer::CommandLine::takePlugins(&argc, argv);
     const QApplication application(argc, argv);
     viewer::Language language = chooseLanguage();

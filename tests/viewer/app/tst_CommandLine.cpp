@@ -19,6 +19,7 @@ private Q_SLOTS:
     void shouldKeepTheOrderOfPlugins();
     void shouldTakePluginsBeforeTheToolkitDoes();
     void shouldAnswerHelpAndVersion();
+    void shouldTakeWhatARunWithoutWindowIsToDo();
     void shouldRefuseWhatItDoesNotKnow_data();
     void shouldRefuseWhatItDoesNotKnow();
 };
@@ -95,6 +96,24 @@ void tst_CommandLine::shouldAnswerHelpAndVersion()
     QCOMPARE(version.text, QString("overlay-viewer 1.2.3\n"));
 }
 
+void tst_CommandLine::shouldTakeWhatARunWithoutWindowIsToDo()
+{
+    const CommandLine line =
+        read({"--headless", "--scene", "a.json", "--script", "s.js", "--save", "b.json", "--export",
+              "o.png", "--size", "32767x1", "--dpi", "299.5", "--transparent"});
+    QVERIFY2(line.outcome == CommandLine::Outcome::Run, qPrintable(line.text));
+    QVERIFY(line.headless.isOn);
+    QVERIFY(line.headless.isTransparent);
+    QCOMPARE(QStringList({line.scene, line.script, line.headless.save, line.headless.picture}),
+             QStringList({"a.json", "s.js", "b.json", "o.png"}));
+    QCOMPARE(line.headless.size, QSize(32767, 1));
+    QCOMPARE(line.headless.dpi, 299.5);
+    const CommandLine plain = read({"--headless"});
+    QVERIFY(!plain.headless.isTransparent);
+    QCOMPARE(plain.headless.size, QSize(1920, 1080));
+    QCOMPARE(plain.headless.dpi, 96.0);
+}
+
 void tst_CommandLine::shouldRefuseWhatItDoesNotKnow_data()
 {
     QTest::addColumn<QStringList>("arguments");
@@ -103,6 +122,30 @@ void tst_CommandLine::shouldRefuseWhatItDoesNotKnow_data()
     QTest::newRow("no value") << QStringList{"--plugin"} << "plugin";
     QTest::newRow("empty file") << QStringList{"--screenshot", ""} << "--screenshot";
     QTest::newRow("two scenes") << QStringList{"a.json", "b.json"} << "Only one scene";
+    QTest::newRow("two scenes, one by option")
+        << QStringList{"a.json", "--scene", "b.json"} << "Only one scene";
+    QTest::newRow("scene without a name") << QStringList{""} << "The name of the scene is empty";
+    for (const char *option : {"scene", "script", "record", "save", "export", "size", "dpi"}) {
+        const QString name = QString("--%1").arg(option);
+        QTest::addRow("%s without a value", option)
+            << QStringList{"--headless", name, ""} << name + " needs a value";
+        QTest::addRow("%s twice", option)
+            << QStringList{"--headless", name, "7", name, "8"} << name + " can be given only once";
+    }
+    for (const char *option : {"--save", "--export", "--size", "--dpi"})
+        QTest::newRow(option) << QStringList{option, "5"} << "needs --headless";
+    QTest::newRow("--transparent") << QStringList{"--transparent"} << "needs --headless";
+    QTest::newRow("window") << QStringList{"--headless", "--screenshot", "a.png"}
+                            << "--screenshot needs a window";
+    QTest::newRow("recording") << QStringList{"--headless", "--record", "a.js"}
+                               << "--record needs a window";
+    for (const char *size :
+         {"0x5", "5x0", "-1x5", "5", "5x5x5", "x", "5.5x5", "32768x1", "1x32768", "100000x100000"})
+        QTest::newRow(size) << QStringList{"--headless", "--size", size}
+                            << QString("The size \"%1\" is none").arg(size);
+    for (const char *dpi : {"0", "0.9", "-96", "10001", "nan", "inf", "many"})
+        QTest::addRow("dpi %s", dpi) << QStringList{"--headless", "--dpi", dpi}
+                                     << QString("from 1 to 10000, and \"%1\" is none").arg(dpi);
 }
 
 void tst_CommandLine::shouldRefuseWhatItDoesNotKnow()

@@ -19,6 +19,7 @@ class tst_HeadlessRun : public KxTest
 private Q_SLOTS:
     void shouldWriteSceneAndPictureWithoutADisplay();
     void shouldWriteThePictureAndWarnOnceOfAMissingImage();
+    void shouldNameTheFirstOverlaysOfAMissingImage();
     void shouldNotFailForAnImageThatIsNotShown_data();
     void shouldNotFailForAnImageThatIsNotShown();
     void shouldLoadTheEditorInItsHeadlessMode();
@@ -27,6 +28,7 @@ private Q_SLOTS:
     void shouldWriteNothingWhenTheScriptFails();
     void shouldEndAnEndlessScriptWhenAsked_data();
     void shouldEndAnEndlessScriptWhenAsked();
+    void shouldEndAtOnceByASecondSignal();
     void shouldTellThatLongWorkGoesOn();
     void shouldLeaveTheBackdropOutWhenTransparent();
     void shouldRefuseAFormatWithoutTransparency();
@@ -73,6 +75,7 @@ void tst_HeadlessRun::start(QProcess *program, const QStringList &arguments)
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("QT_QPA_PLATFORM", "xcb");
     environment.remove("DISPLAY");
+    environment.remove("XDG_RUNTIME_DIR"); // as in a job that no session started
     program->setProcessEnvironment(environment);
     program->start(PROGRAM, QStringList("--headless") + arguments);
 }
@@ -97,11 +100,12 @@ void tst_HeadlessRun::shouldWriteSceneAndPictureWithoutADisplay()
 {
     writeScene("");
     const int code = run({"--scene", path("a.json"), "--save", path("b.json"), "--export",
-                          path("o.png"), "--size", "640x360", "--dpi", "96"});
+                          path("o.png"), "--size", "640x360", "--dpi", "300"});
     QVERIFY2(code == 0, qPrintable(m_errors));
     QCOMPARE(m_errors, QString());
     QCOMPARE(QImage(path("o.png")).size(), QSize(640, 360));
     QVERIFY(!QImage(path("o.png")).hasAlphaChannel());
+    QCOMPARE(QImage(path("o.png")).dotsPerMeterX(), 11811);
     QVERIFY(QFile::exists(path("b.json")));
 }
 
@@ -110,22 +114,36 @@ void tst_HeadlessRun::shouldWriteThePictureAndWarnOnceOfAMissingImage()
     write("bytes.png", "no picture");
     writeScene(R"({"kind": "overlay", "name": "Logo", "type": "image", "image": "gone.png"},)"
                R"({"kind": "overlay", "enabled": false, "type": "image", "image": "gone.png"},)"
-               R"({"kind": "overlay", "type": "image", "image": "bytes.png"})");
+               R"({"kind": "overlay", "name": "Two\nlines", "type": "image", "image": "gone.png"},)"
+               R"({"kind": "overlay", "name": "Mark", "type": "image", "image": "bytes.png"})");
     QCOMPARE(run({path("a.json"), "--export", path("missing.png")}), 3);
     const QString warning =
-        "Warning: the image \"%1\" cannot be read; a placeholder stands for it.\n";
-    QCOMPARE(m_errors, warning.arg(path("bytes.png")) + warning.arg(path("gone.png")));
+        "Warning: the image \"%1\" of %2 cannot be read; a placeholder stands for it.\n";
+    QCOMPARE(m_errors, warning.arg(path("bytes.png"), "\"Mark\"")
+                           + warning.arg(path("gone.png"), "\"Logo\", \"Two lines\""));
     QCOMPARE(QImage(path("missing.png")).size(), QSize(1920, 1080));
+}
+
+void tst_HeadlessRun::shouldNameTheFirstOverlaysOfAMissingImage()
+{
+    QByteArrayList overlays;
+    for (int i = 0; i < 5; ++i)
+        overlays += R"({"kind": "overlay", "type": "image", "image": "gone.png", "name": ")"
+                    + QByteArray::number(i) + "\"}";
+    writeScene(overlays.join(','));
+    QCOMPARE(run({path("a.json")}), 3);
+    QVERIFY2(m_errors.contains(R"(gone.png" of "0", "1", "2", "3", … cannot)"),
+             qPrintable(m_errors));
 }
 
 void tst_HeadlessRun::shouldNotFailForAnImageThatIsNotShown_data()
 {
     QTest::addColumn<QByteArray>("overlays");
     QTest::newRow("switched off") << QByteArray(
-        R"({"kind": "overlay", "enabled": false, "type": "image", "image": "gone.png"})");
-    QTest::newRow("in a group that is switched off")
-        << QByteArray(R"({"kind": "group", "enabled": false, "children": [)"
-                      R"({"kind": "overlay", "type": "image", "image": "gone.png"}]})");
+        R"({"kind": "overlay", "name": "x", "enabled": false, "type": "image", "image": "gone.png"})");
+    QTest::newRow("in a group that is switched off") << QByteArray(
+        R"({"kind": "group", "enabled": false, "children": [)"
+        R"({"kind": "overlay", "name": "x", "type": "image", "image": "gone.png"}]})");
 }
 
 void tst_HeadlessRun::shouldNotFailForAnImageThatIsNotShown()
@@ -133,9 +151,10 @@ void tst_HeadlessRun::shouldNotFailForAnImageThatIsNotShown()
     QFETCH(QByteArray, overlays);
     writeScene(overlays);
     QCOMPARE(run({path("a.json")}), 0);
-    QCOMPARE(m_errors,
-             QString("Warning: the image \"%1\" cannot be read, but is not shown either.\n")
-                 .arg(path("gone.png")));
+    QCOMPARE(
+        m_errors,
+        QString("Warning: the image \"%1\" of \"x\" cannot be read, but is not shown either.\n")
+            .arg(path("gone.png")));
 }
 
 void tst_HeadlessRun::shouldLoadTheEditorInItsHeadlessMode()
@@ -208,6 +227,18 @@ void tst_HeadlessRun::shouldEndAnEndlessScriptWhenAsked()
     const QString last = m_errors.section('\n', -2, -2); // that work goes on may be told before
     QCOMPARE(last, QString("The script \"%1\" was interrupted.").arg(path("s.js")));
     QVERIFY(!QFile::exists(path("d.json")));
+}
+
+void tst_HeadlessRun::shouldEndAtOnceByASecondSignal()
+{
+    writeScene("");
+    write("s.js", "print('begun'); const a = []; a.length = 4e9; a.forEach(x => x);");
+    QProcess program;
+    start(&program, {path("a.json"), "--script", path("s.js")});
+    QVERIFY(program.waitForReadyRead(60000));
+    ::kill(pid_t(program.processId()), SIGINT);
+    ::kill(pid_t(program.processId()), SIGTERM);
+    QCOMPARE(finish(&program), 8);
 }
 
 void tst_HeadlessRun::shouldTellThatLongWorkGoesOn()

@@ -16,6 +16,7 @@ private Q_SLOTS:
     void shouldTellItsVersionWithoutADisplay();
     void shouldTellItsOptionsWithoutADisplay();
     void shouldRefuseAnUnknownOption();
+    void shouldRefuseAHeadlessRunWithoutADisplay();
     void shouldSpeakTheLanguageOfTheDesktop_data();
     void shouldSpeakTheLanguageOfTheDesktop();
     void shouldSpeakTheLanguageThatIsAskedFor();
@@ -77,6 +78,12 @@ void tst_program::shouldRefuseAnUnknownOption()
     QCOMPARE(refusal.code, 2);
     QCOMPARE(refusal.output, QString());
     QVERIFY2(refusal.errors.contains("frobnicate"), qPrintable(refusal.errors));
+}
+
+void tst_program::shouldRefuseAHeadlessRunWithoutADisplay()
+{
+    QCOMPARE(run({"--headless", "--frobnicate"}, "xcb").code, 2);
+    QCOMPARE(run({"--headless=yes"}, "xcb").code, 2);
 }
 
 void tst_program::shouldSpeakTheLanguageOfTheDesktop_data()
