@@ -196,6 +196,7 @@ void tst_ScriptRun::shouldNameTheLineOfAFault_data()
     row("throw 'just a text'", "titles.js: just a text");
     row("throw undefined", "titles.js: undefined");
     row("function f() { f() } f()", ":1: RangeError: ");
+    row("\nPromise.resolve()", ":2: ReferenceError: Promise is not defined");
 }
 
 void tst_ScriptRun::shouldNameTheLineOfAFault()
