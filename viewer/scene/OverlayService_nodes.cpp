@@ -192,7 +192,7 @@ NodeList OverlayService::insertScene(const Scene &scene, NodeId parent, int row)
     m_scene.setChildren(parent, std::move(children));
     recordAdded(Operation::Paste, copies);
     announceStructure(&kxOverlayService::nodesAdded, copies);
-    announceStructure(&kxOverlayService::nodesCreated, copies);
+    announceCreated(copies);
     return copies;
 }
 

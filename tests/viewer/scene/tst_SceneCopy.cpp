@@ -20,6 +20,7 @@ private Q_SLOTS:
     void shouldGiveNewIdsAndKeepAllElse();
     void shouldMakeOneStep();
     void shouldCountOnFromInsertedNames();
+    void shouldNotCallCreatedWhatAListenerHasDeleted();
 };
 
 void tst_SceneCopy::shouldExtractInTreeOrder_data()
@@ -126,11 +127,13 @@ void tst_SceneCopy::shouldMakeOneStep()
     service().insertScene(scenetext::build("x(y) z"), id("root"), 0);
     QCOMPARE(service().history().stack()->undoText(), QString("Paste 2 items"));
     signalLines();
+    const NodeList pasted = ids("x y z");
     service().undo();
     QCOMPARE(dump(), QString("a"));
     QCOMPARE(signalLines(), QStringList("nodesRemoved x z"));
     service().redo();
     QCOMPARE(dump(), QString("x(y) z a"));
+    QCOMPARE(ids("x y z"), pasted);
     QCOMPARE(signalLines(), QStringList("nodesAdded x z"));
     service().undo();
     service().insertScene(scenetext::build("x"), id("root"), 0);
@@ -145,6 +148,18 @@ void tst_SceneCopy::shouldCountOnFromInsertedNames()
         other.createGroup(other.createGroup(other.getRootNode()));
     service().insertScene(other.scene(), id("root"), -1);
     QCOMPARE(service().getName(service().createGroup(id("root"))), QString("Group 7"));
+}
+
+void tst_SceneCopy::shouldNotCallCreatedWhatAListenerHasDeleted()
+{
+    open("a");
+    const auto deleting =
+        connect(&service(), &kxOverlayService::nodesAdded, this,
+                [this](const NodeList &nodes) { service().deleteNodes({nodes[0]}); });
+    service().insertScene(scenetext::build("x y"), id("root"), -1);
+    disconnect(deleting);
+    QCOMPARE(dump(), QString("a y"));
+    QCOMPARE(signalLines().constLast(), QString("nodesCreated y"));
 }
 
 KX_TEST_MAIN(tst_SceneCopy)
