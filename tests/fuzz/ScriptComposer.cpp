@@ -19,6 +19,16 @@ constexpr std::array<const char *, 4> Colors = {R"("#ff0000")", R"("#80102030")"
 constexpr std::array<const char *, 2> Types = {R"("text")", R"("image")"};
 constexpr std::array<const char *, 2> SizeTypes = {R"("absolute")", R"("relative")"};
 constexpr std::array<const char *, 2> Truths = {"true", "false"};
+/// What can be pasted, and what cannot.
+constexpr std::array<const char *, 6> Scenes = {
+    R"('{"format": "overlay-scene", "version": 1, "overlays": [{"kind": "overlay"}]}')",
+    R"('{"format": "overlay-scene", "version": 1, "overlays": [{"kind": "group", "name": "Group 7",)"
+    R"( "more": 1, "children": [{"kind": "overlay", "type": "image", "image": "c.png"}]}]}')",
+    R"('{"format": "overlay-scene", "version": 1, "more": 1, "overlays": [{"kind": "switch",)"
+    R"( "children": [{"kind": "overlay"}, {"kind": "overlay"}]}, {"kind": "overlay"}]}')",
+    R"('{"format": "overlay-scene", "version": 1, "overlays": []}')",
+    R"('{"format": "overlay-scene", "version": 1, "overl')",
+    R"('words')"};
 /// Values that hardly any operation asks for.
 constexpr std::array<const char *, 18> Odd = {
     "undefined",
@@ -106,6 +116,10 @@ QByteArray ScriptComposer::fitting(const QByteArray &parameter)
         return anyOf(Truths);
     if (parameter == "position" || parameter == "offset")
         return point();
+    if (parameter == "scene")
+        return anyOf(Scenes);
+    if (parameter == "row")
+        return QByteArray::number(below(6) - 1);
     if (parameter == "name" || parameter == "text" || parameter == "family" || parameter == "path")
         return anyOf(Texts);
     return parameter == "size" || parameter == "x" || parameter == "y" ? number() : node();
