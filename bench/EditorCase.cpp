@@ -5,30 +5,33 @@
 
 #include <QApplication>
 
-#include <functional>
-
 namespace {
 
-/// Selects every row or every second one, among siblings that are shown.
+/// Adds all rows below a parent, in one range, or every second one.
+void pickRows(const QTreeView *view, const QModelIndex &parent, Picked which,
+              QItemSelection *picked)
+{
+    const QAbstractItemModel *model = view->model();
+    const int count = model->rowCount(parent);
+    if (which == Picked::All && count > 0)
+        picked->select(model->index(0, 0, parent), model->index(count - 1, 0, parent));
+    for (int row = 0; which == Picked::Half && row < count; row += 2)
+        picked->append(QItemSelectionRange(model->index(row, 0, parent)));
+}
+
+/// Selects among the rows that are shown.
 void pick(QTreeView *view, const Start &start)
 {
     if (start.expanded)
         view->expandAll();
     QItemSelection picked;
-    const QAbstractItemModel *model = view->model();
-    const std::function<void(const QModelIndex &)> walk = [&](const QModelIndex &parent) {
-        const int step = start.picked == Picked::Half ? 2 : 1;
-        for (int row = 0; row < model->rowCount(parent); row += step) {
-            const QModelIndex index = model->index(row, 0, parent);
-            picked.append(QItemSelectionRange(index));
-            if (start.expanded)
-                walk(index);
-        }
-    };
-    if (start.picked == Picked::All && !start.expanded)
-        picked.select(model->index(0, 0), model->index(model->rowCount() - 1, 0));
-    else if (start.picked != Picked::None)
-        walk(QModelIndex());
+    QModelIndexList open{QModelIndex()};
+    while (!open.isEmpty()) {
+        const QModelIndex parent = open.takeLast();
+        pickRows(view, parent, start.picked, &picked);
+        for (int row = 0; start.expanded && row < view->model()->rowCount(parent); ++row)
+            open.append(view->model()->index(row, 0, parent));
+    }
     view->selectionModel()->select(picked, QItemSelectionModel::ClearAndSelect);
     QCoreApplication::processEvents();
 }

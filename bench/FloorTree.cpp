@@ -11,6 +11,14 @@ namespace {
 const int s_idRole = Qt::UserRole + 1;
 const int s_activeRole = Qt::UserRole + 2;
 
+QStandardItem *copyOf(const QStandardItem *item)
+{
+    QStandardItem *copy = item->clone();
+    for (int row = 0; row < item->rowCount(); ++row)
+        copy->appendRow(copyOf(item->child(row)));
+    return copy;
+}
+
 } // namespace
 
 FloorTree::FloorTree(const viewer::Scene &scene) : m_scene(scene), m_icon(QPixmap(16, 16)) {}
@@ -61,7 +69,7 @@ void FloorTree::appendCopies(QTreeView *view)
 {
     const int count = m_model.rowCount();
     for (int row = 0; row < count; ++row)
-        m_model.appendRow(m_model.item(row)->clone());
+        m_model.appendRow(copyOf(m_model.item(row)));
     const QModelIndex last = m_model.index(2 * count - 1, 0);
     view->scrollTo(last);
     view->selectionModel()->select(QItemSelection(m_model.index(count, 0), last),

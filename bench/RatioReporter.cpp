@@ -63,7 +63,13 @@ void RatioReporter::Finalize()
         std::printf("| %s |", name.c_str());
         double previous = 0.0;
         double growth = 0.0;
-        for (const auto &[size, times] : m_rows[name]) {
+        for (const int size : sizes) {
+            const auto cell = m_rows[name].find(size);
+            if (cell == m_rows[name].end()) {
+                std::printf(" | | |");
+                continue;
+            }
+            const Times &times = cell->second;
             std::printf(" %.2f | %.2f | %.1f |", times.module, times.floor,
                         times.module / times.floor);
             growth = previous > 0.0 ? times.module / previous : 0.0;

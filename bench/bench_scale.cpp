@@ -158,6 +158,12 @@ std::vector<Operation> rowOperations()
              undo(plain);
              plain->floor.fill();
          }},
+    };
+}
+
+std::vector<Operation> dropOperations()
+{
+    return {
         {"drop of 1,000", [](Editor *editor) { selectFirst(editor->view); }, dropInEditor,
          [](Plain *plain) { selectFirst(plain->view.get()); }, dropPlain, s_dropped},
         {"undo of drop",
@@ -179,11 +185,11 @@ std::vector<Operation> rowOperations()
 }
 
 template<class Side>
-sides::Run measure(int size, const Step<Side> &prepare, const Step<Side> &work)
+sides::Run measure(const Start &start, int size, const Step<Side> &prepare, const Step<Side> &work)
 {
     return [=](benchmark::State &state) {
         for ([[maybe_unused]] auto iteration : state) {
-            Side side({Shape::Flat, false, Picked::All}, size);
+            Side side(start, size);
             widgets::settle();
             prepare(&side);
             widgets::settle();
@@ -192,14 +198,13 @@ sides::Run measure(int size, const Step<Side> &prepare, const Step<Side> &work)
     };
 }
 
-void add(const std::vector<Operation> &operations)
+void add(const Start &start, const char *tree, const Operation &operation, int most)
 {
-    for (const Operation &operation : operations) {
-        for (const int size : {1000, 10000, 100000})
-            sides::add(
-                operation.name, "flat", size,
-                measure<Editor>(size + operation.more, operation.prepare, operation.module),
-                measure<Plain>(size + operation.more, operation.preparePlain, operation.floor), 1);
+    for (int nodes = 1000; nodes <= most; nodes *= 10) {
+        const int size = nodes + operation.more;
+        sides::add(operation.name, tree, nodes,
+                   measure<Editor>(start, size, operation.prepare, operation.module),
+                   measure<Plain>(start, size, operation.preparePlain, operation.floor), 1);
     }
 }
 
@@ -207,6 +212,15 @@ void add(const std::vector<Operation> &operations)
 
 void sides::addAll()
 {
-    add(valueOperations());
-    add(rowOperations());
+    const Start flat{Shape::Flat, false, Picked::All};
+    const Start groups{Shape::Groups, true, Picked::All};
+    for (const auto &operations : {valueOperations(), rowOperations(), dropOperations()}) {
+        for (const Operation &operation : operations)
+            add(flat, "flat", operation, 100000);
+    }
+    for (const auto &operations : {valueOperations(), rowOperations()}) {
+        // The plain view takes minutes until 100,000 open rows are gone.
+        for (const Operation &operation : operations)
+            add(groups, "groups of 20, open", operation, 10000);
+    }
 }
