@@ -50,6 +50,7 @@ void ModuleBench::reset()
     m_host->scaleX = m_host->scaleY = 1.0;
     service().setApplies(true);
     service().setHook(nullptr);
+    service().setCallHook(nullptr);
     QWidget &shown = window();
     shown.hide();
     qobject_cast<QLineEdit *>(&searchBox())->clear();
@@ -158,6 +159,16 @@ ModuleBench::Nodes ModuleBench::selected()
         nodes.append(index.data(idRole).toUInt());
     std::sort(nodes.begin(), nodes.end());
     return nodes;
+}
+
+int ModuleBench::insertionsOf(const std::function<void()> &action)
+{
+    int count = 0;
+    const auto connection =
+        QObject::connect(&model(), &QAbstractItemModel::rowsInserted, [&count] { ++count; });
+    action();
+    QObject::disconnect(connection);
+    return count;
 }
 
 void ModuleBench::call(const char *slot)

@@ -81,6 +81,9 @@ public:
     QStringList commandsOf(const std::function<void()> &action) { return log().commandsOf(action); }
     QStringList callsOf(const std::function<void()> &action) { return log().callsOf(action); }
 
+    /// How many times `action` has rows inserted into the tree.
+    int insertionsOf(const std::function<void()> &action);
+
     /// Calls a slot of the editor that has no arguments.
     void call(const char *slot);
 

@@ -9,9 +9,9 @@ ModuleChecks moduleChecks()
 {
     return joined<ModuleBench>({entryChecks(), formChecks(), textChecks(), wiringChecks(),
                                 treeChecks(), itemChecks(), dropChecks(), mouseChecks(),
-                                foreignChecks(), randomChecks(), selectionChecks(), commandChecks(),
-                                keyChecks(), searchChecks(), panelChecks(), refreshChecks(),
-                                editChecks(), careChecks()});
+                                foreignChecks(), randomChecks(), restlessChecks(),
+                                selectionChecks(), commandChecks(), keyChecks(), searchChecks(),
+                                panelChecks(), refreshChecks(), editChecks(), careChecks()});
 }
 
 } // namespace conformance

@@ -30,6 +30,7 @@ ModuleChecks dropChecks();
 ModuleChecks mouseChecks();
 ModuleChecks foreignChecks();
 ModuleChecks randomChecks();
+ModuleChecks restlessChecks();
 ModuleChecks wiringChecks();
 ModuleChecks careChecks();
 

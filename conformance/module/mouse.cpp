@@ -64,6 +64,15 @@ ModuleChecks caseChecks()
     return checks;
 }
 
+/// Has the service do something of its own at the end of the next command, without a word.
+void inTheNextCommand(ModuleBench &bench, void (*action)(RecordingService &service))
+{
+    bench.service().setHook([&bench, action](const QString &) {
+        bench.service().setHook(nullptr);
+        action(bench.service());
+    });
+}
+
 /// What the service does while the button is down.
 struct Change
 {
@@ -202,10 +211,66 @@ ModuleChecks openChecks() // NOLINT(readability-function-size)
     };
 }
 
+/// The service does more in a move than it was asked for, and says nothing about it.
+ModuleChecks silentChecks()
+{
+    return {
+        {"mouse.silent.nested", "Of what is dragged the service may put one into another.",
+         [](ModuleBench &bench) {
+             bench.openShown("g2(a3) g4(b5) h6()");
+             bench.select({2, 4});
+             inTheNextCommand(bench, [](RecordingService &service) { service.place(4, 2, -1); });
+             drag(bench, 4, 6, Edge::On);
+             bench.expectSettled();
+             expectEqual("tree", bench.shown(), QString("h6(g2(a3 g4(b5)))"));
+         }},
+        {"mouse.silent.lastRemoved", "A last row whose node is gone goes too, and only that one.",
+         [](ModuleBench &bench) {
+             bench.openShown("g2(a3 b4 c5) h6()");
+             bench.select({3});
+             const QPersistentModelIndex other(bench.index(4));
+             inTheNextCommand(bench, [](RecordingService &service) { service.erase({5}); });
+             drag(bench, 3, 6, Edge::On);
+             bench.expectSettled();
+             expect("the other row is the same", QModelIndex(other) == bench.index(4));
+         }},
+        {"mouse.silent.firstRemoved", "A first row whose node is gone goes too, and only that one.",
+         [](ModuleBench &bench) {
+             bench.openShown("g2(c3 b4 a5) h6()");
+             bench.select({5});
+             const QPersistentModelIndex other(bench.index(4));
+             inTheNextCommand(bench, [](RecordingService &service) { service.erase({3}); });
+             drag(bench, 5, 6, Edge::On);
+             bench.expectSettled();
+             expect("the other row is the same", QModelIndex(other) == bench.index(4));
+         }},
+        {"mouse.silent.allRemoved", "Of what is dragged all may be gone.",
+         [](ModuleBench &bench) {
+             bench.openShown("g2(h3(a4)) k5() b6");
+             bench.select({2, 6});
+             inTheNextCommand(bench, [](RecordingService &service) { service.erase({2, 6}); });
+             drag(bench, 6, 5, Edge::On);
+             bench.expectSettled();
+             expectEqual("selection", bench.selected(), Nodes());
+         }},
+    };
+}
+
 // One table, long as it has an entry for each check.
 ModuleChecks otherChecks() // NOLINT(readability-function-size)
 {
     return {
+        {"mouse.insertsOnce", "A drag inserts a row for each that it drops, and no other.",
+         [](ModuleBench &bench) {
+             bench.openShown("a2 b3 c4");
+             bench.select({3});
+             const int count = bench.insertionsOf([&bench] {
+                 // The view removes what is selected at the end.
+                 drag(bench, 3, 2, Edge::Below, [&bench] { bench.select({}); });
+             });
+             bench.expectSettled();
+             expectEqual("insertions", count, 1);
+         }},
         {"mouse.intoItself", "A drop into what is dragged is refused.",
          [](ModuleBench &bench) {
              for (const QRPC::NodeId target : {2, 3, 6}) {
@@ -319,7 +384,8 @@ ModuleChecks otherChecks() // NOLINT(readability-function-size)
 
 ModuleChecks mouseChecks()
 {
-    return joined<ModuleBench>({caseChecks(), changeChecks(), openChecks(), otherChecks()});
+    return joined<ModuleBench>(
+        {caseChecks(), changeChecks(), silentChecks(), openChecks(), otherChecks()});
 }
 
 } // namespace conformance

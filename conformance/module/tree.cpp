@@ -10,17 +10,6 @@ namespace {
 constexpr int idRole = Qt::UserRole + 1;
 constexpr int activeRole = Qt::UserRole + 2;
 
-/// How many insertions of rows `action` causes.
-int insertionsOf(ModuleBench &bench, const std::function<void()> &action)
-{
-    int count = 0;
-    const auto connection =
-        QObject::connect(&bench.model(), &QAbstractItemModel::rowsInserted, [&count] { ++count; });
-    action();
-    QObject::disconnect(connection);
-    return count;
-}
-
 void add(ModuleBench &bench, QRPC::NodeId parent, int row, const char *line)
 {
     const QRPC::NodeList added = bench.service().insert(parent, row, line);
@@ -88,7 +77,7 @@ ModuleChecks treeChecks() // NOLINT(readability-function-size)
          [](ModuleBench &bench) {
              bench.open("a2");
              const int count =
-                 insertionsOf(bench, [&bench] { add(bench, 1, 0, "g3(b4 s5*(c6 d7-))"); });
+                 bench.insertionsOf([&bench] { add(bench, 1, 0, "g3(b4 s5*(c6 d7-))"); });
              bench.expectTree();
              expectEqual("insertions", count, 1);
          }},
@@ -98,7 +87,7 @@ ModuleChecks treeChecks() // NOLINT(readability-function-size)
              bench.open("a2 b3");
              bench.service().insert(1, 1, "g4(h5(c6 d7))");
              const int count =
-                 insertionsOf(bench, [&bench] { Q_EMIT bench.service().nodesAdded({6}); });
+                 bench.insertionsOf([&bench] { Q_EMIT bench.service().nodesAdded({6}); });
              bench.expectTree();
              expectEqual("insertions", count, 1);
          }},

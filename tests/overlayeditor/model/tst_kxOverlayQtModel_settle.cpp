@@ -28,6 +28,7 @@ private Q_SLOTS:
     void shouldMoveOnlyTheDroppedRows_data();
     void shouldMoveOnlyTheDroppedRows();
     void shouldMoveEachDroppedRowOnce();
+    void shouldRemoveARowThatTheDropHasDoubled();
     void shouldMendACopyWhoseRowHasShifted();
     void shouldSkipACopyThatTheOneBeforeTakesIn();
     void shouldSkipAParentThatTheOneBeforeLoses();
@@ -307,6 +308,16 @@ void tst_kxOverlayQtModel_settle::shouldMoveEachDroppedRowOnce()
     KX_COMPARE_TREE(model(), service());
     // The copies themselves are inserted in a few steps.
     QVERIFY2(inserted.count() < 2 * count, qPrintable(QString::number(inserted.count())));
+}
+
+/// Once its node has a row further up, a row is in the way; nothing is put anywhere else first.
+void tst_kxOverlayQtModel_settle::shouldRemoveARowThatTheDropHasDoubled()
+{
+    fill("a2 b3 c4");
+    QSignalSpy inserted(&model(), &QAbstractItemModel::rowsInserted);
+    dragAndDrop({3}, 1, 1, {});
+    KX_COMPARE_TREE(model(), service());
+    QCOMPARE(inserted.count(), 1);
 }
 
 void tst_kxOverlayQtModel_settle::shouldMendACopyWhoseRowHasShifted()

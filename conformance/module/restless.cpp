@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: the Overlay Editor authors
+// SPDX-License-Identifier: MIT
+
+#include "conformance/module/moduleChecks.h"
+#include "kit/RestlessHost.h"
+
+namespace conformance {
+
+namespace {
+
+void startOver(ModuleBench &bench)
+{
+    bench.open(HostDeed::scene());
+    bench.select({2, 4, 5, 10, 13});
+}
+
+/// At each moment of the work in turn, until the work is over before.
+void expectFollowed(ModuleBench &bench, const HostDeed &work, const HostDeed &deed)
+{
+    RestlessHost host(&bench.service(), &bench.tree());
+    startOver(bench);
+    for (int moment = 1;
+         host.run([&] { work.run(bench.service()); }, [&] { deed.run(bench.service()); }, moment);
+         ++moment) {
+        bench.expectSettled();
+        const QRPC::NodeList nodes = bench.selected();
+        for (const QRPC::NodeId node : nodes)
+            expect("what is selected is there", bench.service().has(node));
+        startOver(bench);
+    }
+}
+
+ModuleChecks workChecks()
+{
+    ModuleChecks checks;
+    for (const HostDeed &work : HostDeed::announced()) {
+        for (const HostDeed &deed : HostDeed::meanwhile()) {
+            const QString name = QStringLiteral("restless.%1.%2").arg(work.name, deed.name);
+            checks.push_back(
+                {QString(name).replace(' ', '_'),
+                 QStringLiteral("What the service changes while the module follows a change before "
+                                "shows afterwards."),
+                 [work, deed](ModuleBench &bench) { expectFollowed(bench, work, deed); },
+                 Stage::Running});
+        }
+    }
+    return checks;
+}
+
+ModuleChecks otherChecks()
+{
+    return {
+        {"restless.eachAnswer", "A service that resets at each question lets its caller go on.",
+         [](ModuleBench &bench) {
+             bench.open("g2(a3 b4) c5");
+             int resets = 0;
+             bench.service().setCallHook([&bench, &resets](const QString &line) {
+                 if (line.startsWith("getName") && ++resets < 500)
+                     Q_EMIT bench.service().modelReset();
+             });
+             Q_EMIT bench.service().modelReset();
+             const int atOnce = resets;
+             for (int turns = 0; turns < 1000 && resets < 500; ++turns)
+                 QCoreApplication::processEvents();
+             bench.service().setCallHook({});
+             expect("it comes back soon", atOnce < 100);
+             expect("it follows all resets", resets >= 500);
+             bench.expectSettled();
+         }},
+        {"restless.twoInOneMoment", "All that is announced in one moment shows.",
+         [](ModuleBench &bench) {
+             bench.open("g2(a3 b4) c5");
+             bench.service().setCallHook([&bench](const QString &) {
+                 bench.service().setCallHook({});
+                 bench.service().moveNodes({3}, 1, 0);
+                 bench.service().deleteNodes({3});
+             });
+             bench.service().setEnabled({4}, false);
+             bench.expectTree();
+         }},
+    };
+}
+
+} // namespace
+
+ModuleChecks restlessChecks()
+{
+    return joined<ModuleBench>({workChecks(), otherChecks()});
+}
+
+} // namespace conformance
