@@ -164,10 +164,10 @@ ModuleBench::Nodes ModuleBench::selected()
 int ModuleBench::insertionsOf(const std::function<void()> &action)
 {
     int count = 0;
-    const auto connection =
-        QObject::connect(&model(), &QAbstractItemModel::rowsInserted, [&count] { ++count; });
+    const QObject context;
+    QObject::connect(&model(), &QAbstractItemModel::rowsInserted, &context,
+                     [counter = &count] { ++*counter; });
     action();
-    QObject::disconnect(connection);
     return count;
 }
 

@@ -5,6 +5,7 @@
 #include "conformance/module/moduleChecks.h"
 
 #include <QContextMenuEvent>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QTimer>
@@ -175,6 +176,16 @@ ModuleChecks effectChecks() // NOLINT(readability-function-size)
                      keys::press(edit, key, ctrl);
              });
              expectEqual("calls", calls, QStringList());
+         }},
+        {"key.leftByOthers", "A command takes its key from whoever left it, once and for all.",
+         [](ModuleBench &bench) {
+             openForKeys(bench);
+             QKeyEvent event(QEvent::KeyPress, Qt::Key_D, ctrl);
+             event.ignore();
+             const QStringList calls =
+                 bench.commandsOf([&] { QCoreApplication::sendEvent(&bench.tree(), &event); });
+             expectEqual("calls", calls, QStringList("duplicateNodes [2,4]"));
+             expect("nobody else gets it", event.isAccepted());
          }},
         {"key.elsewhere", "Keys in other widgets of the panel are no commands.",
          [](ModuleBench &bench) {

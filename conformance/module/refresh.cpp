@@ -362,6 +362,15 @@ ModuleChecks sizeChecks() // NOLINT(readability-function-size)
              Q_EMIT bench.service().sizeTypeChanged({2});
              expectEqual("size", sizeOf(bench), QString("0.75"));
          }},
+        {"size.ofFirst", "The unit is that of the first, where it was changed without a word.",
+         [](ModuleBench &bench) {
+             openTwo(bench);
+             bench.node(2).size = bench.node(3).size = 0.5;
+             bench.select({3, 2});
+             bench.node(3).sizeType = 1;
+             Q_EMIT bench.service().sizeChanged({2, 3});
+             expectEqual("size", sizeOf(bench), QString("0.5"));
+         }},
         {"size.notANumber", "Sizes that are no numbers differ.",
          [](ModuleBench &bench) {
              openTwo(bench);
