@@ -27,6 +27,15 @@ if(KX_CCACHE)
     set(CMAKE_CXX_COMPILER_LAUNCHER "${KX_CCACHE}")
 endif()
 
+# The kind of library that a part is from which mutants are made, in the variable `kind`.
+macro(kx_part_kind usual)
+    set(kind ${usual})
+    if(KX_SHARED_PARTS)
+        set(kind SHARED)
+        set(CMAKE_CXX_VISIBILITY_PRESET default)
+    endif()
+endmacro()
+
 # Every target of ours links kx_warnings, that of a product by way of kx_options. Warnings are
 # errors; in products Qt's implicit conversions of character arrays are off too, so that every text
 # says whether it is to be translated.

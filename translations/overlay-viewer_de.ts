@@ -682,6 +682,10 @@ Ein Lauf ohne Fenster gibt zurück:
         <source>Unsaved work cannot be kept safe in %1.</source>
         <translation>Nicht gespeicherte Arbeit kann nicht in %1 gesichert werden.</translation>
     </message>
+    <message>
+        <source>%1: the file cannot be read: %2</source>
+        <translation>%1: Die Datei kann nicht gelesen werden: %2</translation>
+    </message>
 </context>
 <context>
     <name>viewer::JsonBounds</name>
@@ -1314,6 +1318,14 @@ Die Szene ist, wie sie vorher war.</translation>
     <message>
         <source>There are more image files than can be watched. When one of the others changes, it is shown within a few seconds.</source>
         <translation>Es gibt mehr Bilddateien, als überwacht werden können. Ändert sich eine der übrigen, wird das innerhalb weniger Sekunden gezeigt.</translation>
+    </message>
+    <message>
+        <source>Unsaved changes to &quot;%1&quot; cannot be recovered.
+%2
+The file is kept as %3.</source>
+        <translation>Nicht gespeicherte Änderungen an „%1“ können nicht wiederhergestellt werden.
+%2
+Die Datei bleibt als %3 erhalten.</translation>
     </message>
 </context>
 <context>

@@ -682,6 +682,10 @@ A headless run returns:
         <source>Unsaved work cannot be kept safe in %1.</source>
         <translation>未保存的工作无法备份到 %1。</translation>
     </message>
+    <message>
+        <source>%1: the file cannot be read: %2</source>
+        <translation>%1：无法读取文件：%2</translation>
+    </message>
 </context>
 <context>
     <name>viewer::JsonBounds</name>
@@ -1310,6 +1314,14 @@ The scene is as it was before.</source>
     <message>
         <source>There are more image files than can be watched. When one of the others changes, it is shown within a few seconds.</source>
         <translation>图像文件多于可监视的数量。其余文件发生更改时，会在几秒内显示。</translation>
+    </message>
+    <message>
+        <source>Unsaved changes to &quot;%1&quot; cannot be recovered.
+%2
+The file is kept as %3.</source>
+        <translation>无法恢复对“%1”的未保存更改。
+%2
+该文件保留为 %3。</translation>
     </message>
 </context>
 <context>

@@ -3,8 +3,9 @@
 # SPDX-License-Identifier: MIT
 """Breaks the plug-in in one place at a time and looks whether its tests notice.
 
-Usage: mutants.py ROOT [--folder overlayeditor|viewer/scene|viewer/script|hostlib|kit] [--conformance]
-       [--count N] [--seed S] [--file PART] [--copy NAME]
+Usage: mutants.py ROOT
+       [--folder overlayeditor|viewer/scene|viewer/edit|viewer/render|viewer/script|hostlib|kit]
+       [--conformance] [--count N] [--seed S] [--file PART] [--copy NAME]
 
 With --conformance it is not the tests that have to notice, but the conformance program: a broken
 plug-in is a broken module, a broken kit (or viewer/scene) a broken host.
@@ -35,6 +36,8 @@ HERE = pathlib.Path(__file__).resolve().parent
 PARTS = {
     "overlayeditor": ("overlayeditor_objects", "tests/overlayeditor"),
     "viewer/scene": ("viewerscene", "tests/viewer/scene"),
+    "viewer/edit": ("vieweredit", "tests/viewer/edit"),
+    "viewer/render": ("viewerrender", "tests/viewer/render"),
     "viewer/script": ("viewerscript", "tests/viewer/script"),
     "hostlib": ("kxhost", "tests/hostlib"),
 }

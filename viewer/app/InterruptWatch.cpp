@@ -16,11 +16,11 @@ namespace {
 constexpr char Signalled = 's';
 constexpr char Over = 'o';
 constexpr int Patience = 2000;
-constexpr int Signals[] = {SIGINT, SIGTERM};
+constexpr int Signals[] = {SIGINT, SIGTERM, SIGHUP};
 
 // A handler may do next to nothing, so it wakes a thread through a pipe.
 int s_pipe[2] = {-1, -1};
-struct sigaction s_before[2];
+struct sigaction s_before[3];
 
 void wake(char what)
 {
@@ -56,15 +56,19 @@ InterruptWatch::InterruptWatch(Call interrupt, Call giveUp)
     struct sigaction action = {};
     action.sa_handler = handleSignal;
     action.sa_flags = int(SA_RESETHAND | SA_RESTART);
-    for (int i = 0; i < 2; ++i)
+    for (int i = 0; i < 3; ++i) {
         ::sigaction(Signals[i], &action, &s_before[i]);
+        if (Signals[i] == SIGHUP
+            && s_before[i].sa_handler == SIG_IGN) // it is to outlive its terminal
+            ::sigaction(SIGHUP, &s_before[i], nullptr);
+    }
 }
 
 InterruptWatch::~InterruptWatch()
 {
     if (!m_thread.joinable())
         return;
-    for (int i = 0; i < 2; ++i)
+    for (int i = 0; i < 3; ++i)
         ::sigaction(Signals[i], &s_before[i], nullptr);
     wake(Over);
     m_thread.join();

@@ -10,9 +10,10 @@
 
 namespace viewer {
 
-/// Turns the first SIGINT or SIGTERM that the process gets into a call, and into another one where
-/// the work goes on all the same. A second signal of the same kind ends the process as ever, one of the
-/// other kind makes the second call at once. One at a time, in runs without window.
+/// Turns the first SIGINT, SIGTERM or SIGHUP that the process gets into a call, and into another one
+/// where the work goes on all the same. A second signal of the same kind ends the process as ever, one of
+/// another kind makes the second call at once. Under nohup, SIGHUP stays ignored. One at a time; made by
+/// the main program for its window, and by runs without one.
 class InterruptWatch
 {
 public:

@@ -62,9 +62,11 @@ ViewerSession::ViewerSession(const CommandLine &line, QSettings *settings,
     });
 }
 
-// The window goes first: what modules put into it asks services to the last.
+// The window goes before the services: what modules put into it asks them to the last. The journal
+// may have something to report in it.
 ViewerSession::~ViewerSession()
 {
+    m_journal.reset();
     m_window.reset();
 }
 
@@ -161,6 +163,8 @@ void ViewerSession::keepJournal()
     connect(&m_document, &SceneDocument::pathChanged, m_journal.get(), &Journal::setPath);
     connect(m_journal.get(), &Journal::failed, this,
             [this](const QString &text) { report(Severity::Warning, text); });
+    // Whoever closes the window has been asked; whatever ends the run otherwise asks nobody.
+    connect(m_window.get(), &MainWindow::closing, m_journal.get(), &Journal::letGo);
 }
 
 /// The latest first. Once one is taken up, the others wait for another start.
@@ -169,18 +173,23 @@ void ViewerSession::offerLostWork()
     QVector<LostWork> lost = Journal::lostWork(journalFolder());
     for (; !lost.isEmpty(); lost.removeLast()) {
         const LostWork &work = lost.constLast();
-        std::optional<Scene> scene = Journal::recover(work);
-        if (!scene)
-            continue;
         const QString name =
             work.path.isEmpty() ? tr("Untitled") : QDir::toNativeSeparators(work.path);
+        SceneReading reading = Journal::recover(work);
+        if (!reading.scene) {
+            const QString kept = QDir::toNativeSeparators(Journal::putAside(work));
+            report(Severity::Error, tr("Unsaved changes to \"%1\" cannot be recovered.\n%2\nThe "
+                                       "file is kept as %3.")
+                                        .arg(name, reading.error, kept));
+            continue;
+        }
         const FileQuestions::Answer answer =
             m_questions->aboutRecovery(name, QLocale().toString(work.time, QLocale::ShortFormat));
         if (answer == FileQuestions::Answer::Cancel)
             return;
         const bool isWanted = answer == FileQuestions::Answer::Save;
         if (isWanted) {
-            m_document.setUnsavedScene(std::move(*scene), work.path, work.time);
+            m_document.setUnsavedScene(std::move(*reading.scene), work.path, work.time);
             if (!m_journal->flush())
                 return; // the old journal is the only copy
         }

@@ -5,6 +5,7 @@
 #include "host/kxStyle.h"
 #include "viewer/app/CommandLine.h"
 #include "viewer/app/HeadlessRun.h"
+#include "viewer/app/InterruptWatch.h"
 #include "viewer/app/Language.h"
 #include "viewer/app/ViewerSession.h"
 
@@ -15,9 +16,12 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 
 namespace {
+
+constexpr int EndedFromOutside = 1;
 
 void nameApplication()
 {
@@ -70,6 +74,13 @@ viewer::Language chooseLanguage()
                             viewer::Language::standardFolders());
 }
 
+/// Without a question; what is not saved waits in the journal.
+void endRun()
+{
+    QMetaObject::invokeMethod(
+        qApp, [] { QCoreApplication::exit(EndedFromOutside); }, Qt::QueuedConnection);
+}
+
 int run(const viewer::CommandLine &line)
 {
     if (line.headless.isOn)
@@ -81,6 +92,7 @@ int run(const viewer::CommandLine &line)
     QSettings settings;
     // Pictures look alike wherever they are taken.
     viewer::ViewerSession session(line, line.screenshot.isEmpty() ? &settings : nullptr);
+    const viewer::InterruptWatch watch(endRun, [] { std::_Exit(EndedFromOutside); });
     session.start();
     return QApplication::exec();
 }

@@ -81,7 +81,6 @@ QPointF DragMove::snapped(QPointF way, int rules) const
 void DragMove::putBack()
 {
     m_step.rollBack();
-    m_guides.clear();
 }
 
 } // namespace viewer

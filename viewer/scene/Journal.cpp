@@ -4,7 +4,6 @@
 #include "viewer/scene/Journal.h"
 
 #include "viewer/scene/OverlayService.h"
-#include "viewer/scene/SceneReader.h"
 #include "viewer/scene/SceneWriter.h"
 
 #include <QDir>
@@ -18,6 +17,11 @@ namespace viewer {
 namespace {
 
 constexpr int Delay = 500;
+
+QString journalEnding()
+{
+    return QStringLiteral(".journal");
+}
 
 QString lockOf(const QString &journal)
 {
@@ -40,9 +44,23 @@ bool writeJournal(const QString &path, const QByteArray &head, const QByteArray 
            && file.write(scene) == scene.size() && file.flush() && file.commit();
 }
 
+/// Leaves no lock behind that nobody holds.
 bool isHeld(const QString &journal)
 {
     return !makeLock(journal)->tryLock(0);
+}
+
+void removeRemains(const QString &folder)
+{
+    const QDir dir(folder);
+    const QString ending = journalEnding();
+    const QStringList names =
+        dir.entryList({QLatin1Char('*') + ending + QLatin1String(".*")}, QDir::Files);
+    for (const QString &name : names) {
+        const int end = name.indexOf(ending) + ending.size();
+        if (!isHeld(dir.filePath(name.left(end))))
+            QFile::remove(dir.filePath(name));
+    }
 }
 
 } // namespace
@@ -54,7 +72,7 @@ Journal::Journal(OverlayService *service, const QString &folder, QThreadPool *wr
     , m_writer(writer)
     , m_folder(folder)
     , m_file(QDir(folder).filePath(QUuid::createUuid().toString(QUuid::WithoutBraces)
-                                   + QLatin1String(".journal")))
+                                   + journalEnding()))
 {
     m_due.setSingleShot(true);
     m_due.setInterval(Delay);
@@ -67,7 +85,18 @@ Journal::Journal(OverlayService *service, const QString &folder, QThreadPool *wr
 
 Journal::~Journal()
 {
-    removeFile();
+    flush();
+}
+
+void Journal::letGo()
+{
+    m_isLetGo = true;
+    flush();
+}
+
+bool Journal::isNeeded() const
+{
+    return !m_isLetGo && !m_service->history().stack()->isClean();
 }
 
 void Journal::setPath(const QString &path)
@@ -78,7 +107,7 @@ void Journal::setPath(const QString &path)
 
 void Journal::follow()
 {
-    if (m_service->history().stack()->isClean()) {
+    if (!isNeeded()) {
         flush(); // a journal older than the saved file must never be offered
         return;
     }
@@ -100,8 +129,8 @@ bool Journal::flush()
 {
     m_due.stop();
     m_writing.waitForFinished();
-    if (m_service->history().stack()->isClean()) {
-        removeFile();
+    if (!isNeeded()) {
+        QFile::remove(m_file);
         return true;
     }
     startWriting();
@@ -131,35 +160,45 @@ bool Journal::finishWriting()
     return isWritten;
 }
 
-void Journal::removeFile()
-{
-    m_writing.waitForFinished(); // or it would come back
-    QFile::remove(m_file);
-}
-
 QVector<LostWork> Journal::lostWork(const QString &folder)
 {
+    removeRemains(folder);
     QVector<LostWork> found;
     const QFileInfoList files = QDir(folder).entryInfoList(
-        {QStringLiteral("*.journal")}, QDir::Files, QDir::Time | QDir::Reversed);
+        {QLatin1Char('*') + journalEnding()}, QDir::Files, QDir::Time | QDir::Reversed);
     for (const QFileInfo &info : files) {
-        QFile file(info.filePath());
-        if (isHeld(info.filePath()) || !file.open(QIODevice::ReadOnly))
+        if (isHeld(info.filePath()))
             continue;
-        const QByteArray path = QByteArray::fromPercentEncoding(file.readLine().trimmed());
+        QFile file(info.filePath());
+        const QByteArray head = file.open(QIODevice::ReadOnly) ? file.readLine() : QByteArray();
+        const QByteArray path = QByteArray::fromPercentEncoding(head.trimmed());
         found.append({info.filePath(), QString::fromUtf8(path), info.lastModified()});
     }
     return found;
 }
 
-std::optional<Scene> Journal::recover(const LostWork &work)
+SceneReading Journal::recover(const LostWork &work)
 {
     QFile file(work.journal);
-    if (!file.open(QIODevice::ReadOnly))
-        return std::nullopt;
-    file.readLine();
+    if (!file.open(QIODevice::ReadOnly)) {
+        SceneReading reading;
+        reading.error = tr("%1: the file cannot be read: %2")
+                            .arg(QDir::toNativeSeparators(work.journal), file.errorString());
+        return reading;
+    }
+    // Blanks in place of the head, so that faults are told at their place in the file.
+    const QByteArray head = file.readLine().replace('\n', "");
     const QString path = work.path.isEmpty() ? work.journal : work.path;
-    return SceneReader::parse(file.readAll(), path).scene;
+    return SceneReader::parse(QByteArray(head.size(), ' ') + '\n' + file.readAll(), path,
+                              work.journal);
+}
+
+QString Journal::putAside(const LostWork &work)
+{
+    const QFileInfo info(work.journal);
+    const QString aside =
+        info.absoluteDir().filePath(info.completeBaseName() + QLatin1String(".broken"));
+    return QFile::rename(work.journal, aside) ? aside : work.journal;
 }
 
 void Journal::forget(const LostWork &work)

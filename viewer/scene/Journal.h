@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "viewer/scene/Scene.h"
+#include "viewer/scene/SceneReader.h"
 
 #include <QDateTime>
 #include <QFutureWatcher>
@@ -12,7 +12,6 @@
 #include <QTimer>
 
 #include <memory>
-#include <optional>
 
 class QThreadPool;
 
@@ -31,8 +30,8 @@ struct LostWork
 /// Keeps what is not saved yet in a file of its own, so that a crash loses no more than the last
 /// moment of work. Every step starts the writing of the whole scene, at most half a second later
 /// and never twice in that time; each writing replaces the file as a whole. The file goes when the
-/// scene is saved and with the journal itself. One for each running viewer, guarded by a lock that
-/// ends with the process; owned by the session.
+/// scene is saved or let go, and stays when the run ends otherwise. One for each running viewer,
+/// guarded by a lock that ends with the process; owned by the session.
 ///
 /// Lives on the GUI thread and puts the text together there; a thread of `writer` brings it to the
 /// disk, which may be slow, one text at a time.
@@ -43,6 +42,7 @@ class Journal : public QObject
 public:
     /// Journals in `folder`, which is made when it is needed.
     Journal(OverlayService *service, const QString &folder, QThreadPool *writer);
+    /// Writes what is due: a run that is ended from outside leaves its work to the next one.
     ~Journal() override;
 
     /// The scene file that the work belongs to from now on; empty for none.
@@ -51,12 +51,19 @@ public:
     /// Writes now what is due and waits for it. False when that failed.
     bool flush();
 
-    /// Journals in `folder` that no running viewer holds, oldest first. Those that cannot be read
-    /// are left out.
+    /// The user does not want what is not saved. Nothing of the scene is kept any more.
+    void letGo();
+
+    /// Journals in `folder` that no running viewer holds, oldest first. What else killed viewers left
+    /// there, such as a text that was not whole yet, goes.
     static QVector<LostWork> lostWork(const QString &folder);
 
-    /// The scene in a journal; none when it is broken.
-    static std::optional<Scene> recover(const LostWork &work);
+    /// The scene in a journal; none, with an error that names file and place, when it is broken.
+    static SceneReading recover(const LostWork &work);
+
+    /// Gives a broken journal a name under which it is no journal any more, and returns that; its own
+    /// where it has to keep it.
+    static QString putAside(const LostWork &work);
 
     static void forget(const LostWork &work);
 
@@ -65,11 +72,11 @@ Q_SIGNALS:
     void failed(const QString &text);
 
 private:
+    bool isNeeded() const;
     void follow();
     void writeWhenFree();
     void startWriting();
     bool finishWriting();
-    void removeFile();
 
     OverlayService *m_service;
     QThreadPool *m_writer;
@@ -80,6 +87,7 @@ private:
     QTimer m_due;
     QFutureWatcher<bool> m_writing;
     bool m_hasFailed = false;
+    bool m_isLetGo = false;
 };
 
 } // namespace viewer

@@ -7,7 +7,9 @@
 
 namespace viewer {
 
-/// The operations of the service that leave a step.
+Q_NAMESPACE
+
+/// The operations of the service that leave a step. Each has its words in the table of stepText().
 enum class Operation {
     CreateOverlay,
     CreateGroup,
@@ -37,6 +39,7 @@ enum class Operation {
     SetOffsetX,
     SetOffsetY
 };
+Q_ENUM_NS(Operation)
 
 /// One step of the history: what the user did, to which nodes, and the changes that it came to, in
 /// order. Made by the service, kept by the history.

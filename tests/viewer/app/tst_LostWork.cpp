@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <QTimer>
 
 using namespace viewer;
 using Answer = FileQuestions::Answer;
@@ -55,12 +56,14 @@ private Q_SLOTS:
     void shouldOfferLostWork();
     void shouldOfferTheLatestFirst_data();
     void shouldOfferTheLatestFirst();
+    void shouldTellOfABrokenJournalAndKeepIt();
     void shouldOfferWhatStandsBesideABrokenJournal();
     void shouldKeepWhatWasRecoveredUntilItIsSafe();
 
 private:
     QString unsaved() const { return m_folder->filePath("unsaved"); }
     QStringList journals() const { return QDir(unsaved()).entryList({"*.journal"}); }
+    QStringList notices() const { return m_session->window()->viewArea()->notices()->texts(); }
     void leave(const QString &name, const QByteArray &content, int secondsAgo) const;
     void leaveWork(const QString &name, int secondsAgo) const;
     void start(Answer answer, const QString &scene = {});
@@ -141,7 +144,6 @@ void tst_LostWork::shouldTellThatWorkCannotBeKept()
     QVERIFY(file.open(QIODevice::WriteOnly)); // where the folder should be
     start(Answer::Cancel);
     m_session->overlays()->createGroup(Scene::RootId);
-    const auto notices = [this] { return m_session->window()->viewArea()->notices()->texts(); };
     QTRY_COMPARE(notices().size(), 1);
     QVERIFY2(notices().constFirst().contains(unsaved()), qPrintable(notices().constFirst()));
 }
@@ -206,13 +208,39 @@ void tst_LostWork::shouldOfferTheLatestFirst()
     QCOMPARE(left, stay);
 }
 
+void tst_LostWork::shouldTellOfABrokenJournalAndKeepIt()
+{
+    const QByteArray content = "/scenes/broken.json\n{";
+    leave("broken", content, 60);
+    start(Answer::Discard);
+    QTRY_COMPARE(notices().size(), 1);
+    const QStringList lines = notices().constFirst().split('\n');
+    QCOMPARE(lines.size(), 3);
+    QCOMPARE(lines.at(0),
+             QString("Unsaved changes to \"/scenes/broken.json\" cannot be recovered."));
+    QVERIFY2(lines.at(1).startsWith(unsaved() + "/broken.journal: byte 22: expected JSON; line 2,"),
+             qPrintable(lines.at(1)));
+    QCOMPARE(lines.at(2), QString("The file is kept as %1/broken.broken.").arg(unsaved()));
+    QFile kept(unsaved() + "/broken.broken");
+    QVERIFY(kept.open(QIODevice::ReadOnly));
+    QCOMPARE(kept.readAll(), content);
+    QCOMPARE(journals(), QStringList());
+    m_session.reset();
+    start(Answer::Discard); // it is told once
+    bool turned = false;
+    QTimer::singleShot(0, m_session.get(), [&turned] { turned = true; });
+    QTRY_VERIFY(turned);
+    QCOMPARE(notices(), QStringList());
+    QCOMPARE(m_asked, QStringList());
+}
+
 void tst_LostWork::shouldOfferWhatStandsBesideABrokenJournal()
 {
     leaveWork("whole", 120);
     leave("broken", "/scenes/broken.json\n{", 60);
     start(Answer::Save);
     QTRY_COMPARE(m_asked, QStringList("/scenes/whole.json"));
-    QVERIFY(journals().contains("broken.journal"));
+    QCOMPARE(notices().size(), 1);
 }
 
 void tst_LostWork::shouldKeepWhatWasRecoveredUntilItIsSafe()

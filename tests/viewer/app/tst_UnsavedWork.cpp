@@ -17,6 +17,7 @@
 #include <QSettings>
 #include <QSpinBox>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <functional>
 
@@ -56,6 +57,8 @@ private Q_SLOTS:
     void shouldAskForWhatIsBeingTyped();
     void shouldGoOnTypingAfterSaving();
     void shouldPutADragBackBeforeTheSceneGoes();
+    void shouldLeaveToTheNextRunWhatNobodyLetGo_data();
+    void shouldLeaveToTheNextRunWhatNobodyLetGo();
 
 private:
     MainWindow *window() const { return m_session->window(); }
@@ -108,6 +111,8 @@ void tst_UnsavedWork::shouldAskOnceOnEachWayOut_data()
 {
     QTest::addColumn<Way>("leave");
     QTest::newRow("close") << Way([](ViewerSession *session) { session->window()->close(); });
+    // What the toolkit does when the desktop ends.
+    QTest::newRow("log out") << Way([](ViewerSession *) { QApplication::closeAllWindows(); });
     QTest::newRow("new") << trigger("newScene");
     QTest::newRow("open") << trigger("openScene");
     QTest::newRow("recent") << Way([](ViewerSession *session) {
@@ -238,6 +243,35 @@ void tst_UnsavedWork::shouldPutADragBackBeforeTheSceneGoes()
     QCOMPARE(overlays()->getOffset(node()), offset);
     QTest::mouseRelease(view, Qt::LeftButton);
     QVERIFY(!m_session->document()->isModified());
+}
+
+void tst_UnsavedWork::shouldLeaveToTheNextRunWhatNobodyLetGo_data()
+{
+    QTest::addColumn<Way>("end");
+    QTest::addColumn<FileQuestions::Answer>("answer");
+    QTest::addColumn<bool>("isLeft");
+    const Way close = [](ViewerSession *session) { session->window()->close(); };
+    const Way quit = [](ViewerSession *) {
+        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        QApplication::exec();
+    };
+    QTest::newRow("discarded") << close << Answer::Discard << false;
+    QTest::newRow("saved") << close << Answer::Save << false;
+    QTest::newRow("ended from outside") << quit << Answer::Discard << true;
+}
+
+void tst_UnsavedWork::shouldLeaveToTheNextRunWhatNobodyLetGo()
+{
+    QFETCH(Way, end);
+    QFETCH(bool, isLeft);
+    QFETCH(FileQuestions::Answer, answer);
+    m_answers->answer = answer;
+    overlays()->setName({node()}, "changed");
+    end(m_session.get());
+    m_session.reset();
+    const QVector<LostWork> lost = Journal::lostWork(m_folder->filePath("unsaved"));
+    QCOMPARE(lost.size(), isLeft ? 1 : 0);
+    QVERIFY(!isLeft || Journal::recover(lost.first()).scene);
 }
 
 KX_TEST_MAIN(tst_UnsavedWork)

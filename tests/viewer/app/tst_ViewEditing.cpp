@@ -39,6 +39,7 @@ private Q_SLOTS:
     void shouldStayOutOfPictures();
     void shouldDragToTheMouse();
     void shouldPutADragBackWhenTheKeyboardGoes();
+    void shouldPutADragBackWhenTheViewGoes();
     void shouldGiveADragUpWithItsScene();
     void shouldKeepADragOutOfTheNextScene();
     void shouldNudgeWithTheKeysOfTheView();
@@ -318,6 +319,19 @@ void tst_ViewEditing::shouldPutADragBackWhenTheKeyboardGoes()
     QCOMPARE(m_service->getOffset(m_first), QPointF(20, -20));
     QTest::mouseRelease(view(), Qt::LeftButton, {}, {200, 200});
     QCOMPARE(m_service->history().stack()->count(), 0);
+}
+
+/// In a window that has been given the mouse, but not the keyboard.
+void tst_ViewEditing::shouldPutADragBackWhenTheViewGoes()
+{
+    QWidget other;
+    other.show();
+    QVERIFY(becomesActive(&other));
+    QTest::mousePress(view(), Qt::LeftButton, {}, middleOf(m_first));
+    move({200, 200});
+    QVERIFY(m_service->getOffset(m_first) != QPointF(20, -20));
+    m_window->area->hide();
+    QCOMPARE(m_service->getOffset(m_first), QPointF(20, -20));
 }
 
 void tst_ViewEditing::shouldGiveADragUpWithItsScene()

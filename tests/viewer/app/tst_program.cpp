@@ -3,9 +3,12 @@
 
 #include "tests/support/KxTest.h"
 
+#include <QDir>
 #include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
+
+#include <csignal>
 
 /// The built program, run as a user runs it.
 class tst_program : public KxTest
@@ -23,6 +26,8 @@ private Q_SLOTS:
     void shouldRefuseALanguageThatIsNone();
     void shouldLeaveAPictureOfAScene();
     void shouldRunOnWhenModuleAndSceneAreBad();
+    void shouldLeaveItsWorkToTheNextRunWhenItIsEnded_data();
+    void shouldLeaveItsWorkToTheNextRunWhenItIsEnded();
 
 private:
     QString pictureFile() const { return m_folder.filePath("picture.png"); }
@@ -40,15 +45,20 @@ struct Run
     QString errors;
 };
 
-Run run(const QStringList &arguments, const QString &platform = QStringLiteral("offscreen"),
-        const QString &languages = QStringLiteral("en"))
+QProcessEnvironment environmentFor(const QString &platform, const QString &languages)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("QT_QPA_PLATFORM", platform);
     environment.insert("LANGUAGE", languages);
     environment.remove("DISPLAY");
+    return environment;
+}
+
+Run run(const QStringList &arguments, const QString &platform = QStringLiteral("offscreen"),
+        const QString &languages = QStringLiteral("en"))
+{
     QProcess program;
-    program.setProcessEnvironment(environment);
+    program.setProcessEnvironment(environmentFor(platform, languages));
     program.start(PROGRAM, arguments);
     if (!program.waitForFinished(60000) || program.exitStatus() != QProcess::NormalExit)
         return {};
@@ -149,6 +159,40 @@ void tst_program::shouldRunOnWhenModuleAndSceneAreBad()
     QVERIFY2(shown.errors.contains("The module \"/no/module.so\" is missing"),
              qPrintable(shown.errors));
     QVERIFY2(shown.errors.contains("/no/scene.json"), qPrintable(shown.errors));
+}
+
+void tst_program::shouldLeaveItsWorkToTheNextRunWhenItIsEnded_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::newRow("by the system") << SIGTERM;
+    QTest::newRow("by key") << SIGINT;
+    QTest::newRow("with its terminal") << SIGHUP;
+}
+
+void tst_program::shouldLeaveItsWorkToTheNextRunWhenItIsEnded()
+{
+    QFETCH(int, signal);
+    std::signal(signal, SIG_DFL); // whoever started the test may have it ignored
+    QFile script(m_folder.filePath("edit.js"));
+    QVERIFY(script.open(QIODevice::WriteOnly));
+    script.write("overlays.createGroup(overlays.getRootNode()); print('done');");
+    script.close();
+    const QTemporaryDir settings;
+    QProcessEnvironment environment = environmentFor("offscreen", "en");
+    environment.insert("XDG_CONFIG_HOME", settings.path());
+    QProcess program;
+    program.setProcessEnvironment(environment);
+    program.start(PROGRAM, {"--no-gl", "--script", script.fileName()});
+    while (!program.readAllStandardOutput().contains("done") && program.waitForReadyRead(60000)) {
+    }
+    QCOMPARE(::kill(pid_t(program.processId()), signal), 0);
+    QVERIFY(program.waitForFinished(60000));
+    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program.exitCode(), 1); // the run did not come to its end
+    const QDir unsaved(settings.filePath("overlay-editor/unsaved"));
+    const QStringList left = unsaved.entryList(QDir::Files);
+    QCOMPARE(left.size(), 1); // without a lock
+    QVERIFY2(left.constFirst().endsWith(".journal"), qPrintable(left.constFirst()));
 }
 
 KX_TEST_MAIN(tst_program)

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void shouldPutBackExactlyOnEscape();
     void shouldKeepWhatWasUndoneOnEscape();
     void shouldHoldTheMouseAfterEscape();
+    void shouldGoOnWhereTheButtonIsPressedAgain();
     void shouldEndWhereTheMouseWasReleasedElsewhere();
     void shouldLeaveNoStepWhenTheSceneIsReplaced();
     void shouldTakeEveryKeyDuringADrag();
@@ -197,6 +198,20 @@ void tst_EditGesture_drags::shouldHoldTheMouseAfterEscape()
     move({210, 97});
     release({210, 97});
     QCOMPARE(placeOf("c"), QPointF(207, 89));
+}
+
+/// A pen or another mouse presses, too.
+void tst_EditGesture_drags::shouldGoOnWhereTheButtonIsPressedAgain()
+{
+    press({210, 160});
+    move({237, 92});
+    QVERIFY(press({60, 40}));
+    QCOMPARE(selected(), QString("c"));
+    move({258, 77});
+    QCOMPARE(placeOf("c"), QPointF(248, 67));
+    release({258, 77});
+    QCOMPARE(placeOf("b"), QPointF(50, 30));
+    QCOMPARE(steps(), QStringList("Move \"c\" in the view"));
 }
 
 void tst_EditGesture_drags::shouldEndWhereTheMouseWasReleasedElsewhere()

@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: the Overlay Editor authors
 // SPDX-License-Identifier: MIT
 //
-// A session that never rests: busySession <journal folder> <scene file> <seed>. Numbers its edits
-// in the name of one node, saves now and then, and tells each edit with its time in a line.
+// A session that never rests: busySession <journal folder> <scene file> <seed> [<edits>]. Numbers its
+// edits in the name of one node, saves after so many of them on the average, and tells each edit with its
+// time in a line.
 
 #include "tests/viewer/scene/RandomEdits.h"
 #include "viewer/scene/Journal.h"
@@ -25,6 +26,7 @@ int main(int argc, char **argv)
     journal.setPath(arguments.at(2));
     RandomEdits user(&service, arguments.at(3).toUInt());
     QRandomGenerator random(arguments.at(3).toUInt());
+    const int editsPerSave = arguments.value(4).toInt();
 
     int edits = 0;
     QTimer timer;
@@ -39,7 +41,7 @@ int main(int argc, char **argv)
         std::printf("%d %lld\n", edits,
                     static_cast<long long>(QDateTime::currentMSecsSinceEpoch()));
         std::fflush(stdout);
-        if (random.bounded(20) == 0
+        if (editsPerSave > 0 && random.bounded(editsPerSave) == 0
             && viewer::SceneWriter::write(service.scene(), arguments.at(2)).isWritten())
             service.history().setSaved();
     });

@@ -3,6 +3,10 @@
 
 #include "tests/viewer/scene/ServiceTest.h"
 
+#include "viewer/scene/SceneCopy.h"
+
+#include <QMetaEnum>
+#include <QRegularExpression>
 #include <QTimer>
 
 #include <functional>
@@ -26,6 +30,8 @@ private Q_SLOTS:
     void shouldLeaveNoStepWhenAnImageIsReadAnew();
     void shouldNameTheStep_data();
     void shouldNameTheStep();
+    void shouldNameEveryOperation_data();
+    void shouldNameEveryOperation();
     void shouldShortenLongNames();
     void shouldShowAnAmpersandInTheMenu();
     void shouldMergeOneGesture();
@@ -220,6 +226,10 @@ void tst_History::shouldNameTheStep_data()
     row("Create \"Switch 1\"", [](auto &s, auto) { s.createSwitch(Scene::RootId); });
     row("Duplicate \"a\"", [](auto &s, auto of) { s.duplicateNodes(of("a")); });
     row("Duplicate 2 items", [](auto &s, auto of) { s.duplicateNodes(of("a g")); });
+    row("Paste \"a\"",
+        [](auto &s, auto of) { s.insertScene(extract(s.scene(), of("a")), Scene::RootId, -1); });
+    row("Paste 2 items",
+        [](auto &s, auto of) { s.insertScene(extract(s.scene(), of("a g")), of("g").first(), 0); });
     row("Delete \"a\"", [](auto &s, auto of) { s.deleteNodes(of("a")); });
     row("Delete 2 items", [](auto &s, auto of) { s.deleteNodes(of("a g")); });
     row("Group 2 items", [](auto &s, auto of) { s.groupNodes(of("a g")); });
@@ -243,6 +253,8 @@ void tst_History::shouldNameTheStep_data()
     row("Set size type of \"a\"", [](auto &s, auto of) { s.setSizeType(of("a"), 1); });
     row("Set size of \"a\"", [](auto &s, auto of) { s.setSize(of("a"), 3.0F); });
     row("Set anchor of \"a\"", [](auto &s, auto of) { s.setPosition(of("a"), {0.25, 0.25}); });
+    row("Set offset of \"a\"", [](auto &s, auto of) { s.setOffset(of("a"), {3, 4}); });
+    row("Set offset of 2 overlays", [](auto &s, auto of) { s.setOffset(of("a b"), {3, 4}); });
     row("Set horizontal offset of \"a\"", [](auto &s, auto of) { s.setOffsetX(of("a"), 3.0F); });
     row("Set vertical offset of \"a\"", [](auto &s, auto of) { s.setOffsetY(of("a"), 3.0F); });
     row("Switch off 2 items", [](auto &s, auto of) { s.setEnabled(of("a b"), false); });
@@ -259,6 +271,29 @@ void tst_History::shouldNameTheStep()
     open("a b c- g(d)");
     operate(service(), [this](const char *nodes) { return ids(nodes); });
     QCOMPARE(stepNames(), QStringList(name));
+}
+
+void tst_History::shouldNameEveryOperation_data()
+{
+    QTest::addColumn<int>("operation");
+    const QMetaEnum operations = QMetaEnum::fromType<Operation>();
+    for (int i = 0; i < operations.keyCount(); ++i)
+        QTest::newRow(operations.key(i)) << operations.value(i);
+}
+
+void tst_History::shouldNameEveryOperation()
+{
+    QFETCH(int, operation);
+    Step step;
+    step.operation = Operation(operation);
+    step.subject = "Title";
+    QStringList texts;
+    for (step.count = 1; step.count <= 2; ++step.count)
+        texts.append(stepText(step));
+    static const QRegularExpression one("^[A-Z][a-z]+ .*\"Title\"( in the view)?$");
+    static const QRegularExpression several("^[A-Z][a-z]+ .*\\b2 [a-z]+( in the view)?$");
+    QVERIFY2(one.match(texts.at(0)).hasMatch(), qPrintable(texts.at(0)));
+    QVERIFY2(several.match(texts.at(1)).hasMatch(), qPrintable(texts.at(1)));
 }
 
 void tst_History::shouldShortenLongNames()
