@@ -130,6 +130,7 @@ void writeFile(const QString &path, const QByteArray &content)
 
 } // namespace
 
+// NOLINTNEXTLINE(readability-non-const-parameter): the application object takes what is its own out
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
     qputenv("QV4_FORCE_INTERPRETER", "1"); // scripts are short, and each has an engine of its own

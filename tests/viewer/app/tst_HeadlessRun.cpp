@@ -50,6 +50,15 @@ private:
     QString m_errors;
 };
 
+namespace {
+
+/// A single call of the engine's own that does not end for years. What is signalled once it has begun
+/// comes too late for the last piece of JavaScript, where an interruption would be seen.
+constexpr char OneCall[] = "Array.prototype.includes.call({get 0() { print('begun'); },"
+                           "                               length: Number.MAX_SAFE_INTEGER}, 1)";
+
+} // namespace
+
 void tst_HeadlessRun::writeScene(const QByteArray &overlays)
 {
     QFile file(path("a.json"));
@@ -131,8 +140,9 @@ void tst_HeadlessRun::shouldNameTheFirstOverlaysOfAMissingImage()
         overlays += R"({"kind": "overlay", "type": "image", "image": "gone.png", "name": ")"
                     + QByteArray::number(i) + "\"}";
     writeScene(overlays.join(','));
-    QCOMPARE(run({path("a.json")}), 3);
-    QVERIFY2(m_errors.contains(R"(gone.png" of "0", "1", "2", "3", … cannot)"),
+    write("s.js", "overlays.moveNodes([overlays.getChild(1, 4)], 1, 0)");
+    QCOMPARE(run({path("a.json"), "--script", path("s.js")}), 3);
+    QVERIFY2(m_errors.contains(R"(gone.png" of "4", "0", "1", "2", … cannot)"),
              qPrintable(m_errors));
 }
 
@@ -202,13 +212,12 @@ void tst_HeadlessRun::shouldEndAnEndlessScriptWhenAsked_data()
 {
     QTest::addColumn<int>("signal");
     QTest::addColumn<QByteArray>("endless");
-    QTest::newRow("Ctrl+C") << SIGINT << QByteArray("while (true);");
-    QTest::newRow("kill") << SIGTERM << QByteArray("while (true);");
-    QTest::newRow("recursion") << SIGINT
-                               << QByteArray("(function f() { try { f(); } finally { f(); } })()");
-    // Nothing in it looks whether it is interrupted.
-    QTest::newRow("one call") << SIGINT
-                              << QByteArray("const a = []; a.length = 4e9; a.forEach(x => x);");
+    QTest::newRow("Ctrl+C") << SIGINT << QByteArray("print('begun'); while (true);");
+    QTest::newRow("kill") << SIGTERM << QByteArray("print('begun'); while (true);");
+    QTest::newRow("recursion")
+        << SIGINT
+        << QByteArray("print('begun'); (function f() { try { f(); } finally { f(); } })()");
+    QTest::newRow("one call") << SIGINT << QByteArray(OneCall);
 }
 
 void tst_HeadlessRun::shouldEndAnEndlessScriptWhenAsked()
@@ -216,7 +225,7 @@ void tst_HeadlessRun::shouldEndAnEndlessScriptWhenAsked()
     QFETCH(int, signal);
     QFETCH(QByteArray, endless);
     writeScene("");
-    write("s.js", "print('begun'); " + endless);
+    write("s.js", endless);
     QProcess program;
     m_output.clear();
     start(&program, {path("a.json"), "--script", path("s.js"), "--save", path("d.json")});
@@ -232,7 +241,7 @@ void tst_HeadlessRun::shouldEndAnEndlessScriptWhenAsked()
 void tst_HeadlessRun::shouldEndAtOnceByASecondSignal()
 {
     writeScene("");
-    write("s.js", "print('begun'); const a = []; a.length = 4e9; a.forEach(x => x);");
+    write("s.js", OneCall);
     QProcess program;
     start(&program, {path("a.json"), "--script", path("s.js")});
     QVERIFY(program.waitForReadyRead(60000));
