@@ -147,6 +147,18 @@ ModuleChecks mixedChecks() // NOLINT(readability-function-size)
              expectEqual("calls", bench.commandsOf([&box] { choose(box, 0); }),
                          QStringList("setPosition [2,3] (0,0.5)"));
          }},
+        {"mixed.nameInPassing",
+         "A name for several nodes is sent once it was typed, not in passing.",
+         [](ModuleBench &bench) {
+             bench.open("a2 b3");
+             bench.select({2});
+             bench.select({2, 3});
+             auto &field = bench.form<QLineEdit>("_overlay_name");
+             const auto leave = [&field] { Q_EMIT field.editingFinished(); };
+             expectEqual("calls", bench.commandsOf(leave), QStringList());
+             field.setText("new");
+             expectEqual("calls", bench.commandsOf(leave), QStringList("setName [2,3] \"new\""));
+         }},
         {"mixed.image", "The mark of the image line is handed on to its parts.",
          [](ModuleBench &bench) {
              bench.open("a2 b3");

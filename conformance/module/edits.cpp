@@ -12,6 +12,7 @@
 #include <QAbstractSlider>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QFontComboBox>
 #include <QImage>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -116,6 +117,23 @@ ModuleChecks valueChecks() // NOLINT(readability-function-size)
                  field.insertPlainText("\nc");
              }),
                          QStringList({"setText [5,2,4] \"ab\"", "setText [5,2,4] \"ab\nc\""}));
+         }},
+        {"edit.familyBeingTyped",
+         "What is typed into the font box stays as long as the family does.",
+         [](ModuleBench &bench) {
+             bench.openShown("a2");
+             bench.node(2).font = "Nowhere Sans";
+             bench.select({2});
+             QApplication::setActiveWindow(&bench.window());
+             auto &box = bench.form<QFontComboBox>("_font_combo_box");
+             box.setFocus();
+             expect("the box has the focus", box.hasFocus());
+             box.setEditText("Now");
+             Q_EMIT bench.service().fontChanged({2});
+             expectEqual("text", box.currentText(), QString("Now"));
+             bench.node(2).font = "Somewhere Serif";
+             Q_EMIT bench.service().fontChanged({2});
+             expectEqual("text", box.currentText(), QString("Somewhere Serif"));
          }},
         {"edit.negativeSize", "A size below 0 is shown and sent as 0.",
          [](ModuleBench &bench) {
