@@ -14,6 +14,8 @@ QFunctionPointer entryOf(const QString &file, const char *function)
 {
     // A bare name would be looked up among the system's libraries.
     const QString path = QFileInfo(file).absoluteFilePath();
+    if (!QFileInfo(path).isFile()) // which the toolkit would look for under other names too
+        throw std::runtime_error(QStringLiteral("there is no file %1").arg(path).toStdString());
     QLibrary library(path);
     library.setLoadHints(QLibrary::ResolveAllSymbolsHint);
     if (!library.load())

@@ -4,6 +4,7 @@
 #include "conformance/Options.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 
 namespace conformance {
 
@@ -11,6 +12,16 @@ namespace {
 
 const char s_exitCodes[] = "\nReturns 0 when all checks hold, 1 when some do not, 2 when the "
                            "arguments are wrong or the library cannot be checked.\n";
+
+/// The parser asks an application, of which there is none yet, for the name of the program.
+QString helpOf(const QCommandLineParser &parser)
+{
+    char name[] = "conformance";
+    char *arguments[] = {name, nullptr};
+    int count = 1;
+    const QCoreApplication application(count, arguments);
+    return parser.helpText();
+}
 
 } // namespace
 
@@ -48,7 +59,7 @@ Options::Options(const QStringList &arguments)
         seconds = parser.value("timeout").toInt();
     if (parser.isSet("help")) {
         outcome = Outcome::Answer;
-        text = parser.helpText() + s_exitCodes;
+        text = helpOf(parser) + s_exitCodes;
     } else if (!parser.positionalArguments().isEmpty()) {
         fail(QStringLiteral("'%1' is no option").arg(parser.positionalArguments().constFirst()));
     } else if (seconds < 1) {

@@ -14,7 +14,7 @@ struct KXHOST_EXPORT QKXColor
     /// Black.
     QKXColor();
 
-    /// The colour of given parts, taken as they are.
+    /// The colour of given parts, which are kept as they are, also outside of their ranges.
     /// @param hue        degrees from 0 to 360
     /// @param saturation from 0 (grey) to 1 (pure)
     /// @param value      from 0 (black) to 1 (bright)

@@ -33,8 +33,8 @@ struct KXHOST_EXPORT QKXTextureSettings
     Projection projection = Uv;      ///< how the image comes onto the surface
     RepeatMode repeatModeU = Repeat; ///< across
     RepeatMode repeatModeV = Repeat; ///< upwards
-    QPointF repeat = {1, 1};         ///< how often the image fits; without real-world scale only
-    QPointF offset = {0, 0};         ///< in parts of the image
+    QPointF repeat = {1, 1};         ///< number of images; without real-world scale only
+    QPointF offset = {0, 0};         ///< fraction of the image
     double rotation = 0;             ///< degrees, counter-clockwise
     bool realWorldScale = false;     ///< on: one image covers realWorldSize instead of `repeat`
     QSizeF realWorldSize = {1, 1};   ///< metres

@@ -14,7 +14,7 @@ namespace QRPC {
 /// Identifies a node that the overlay service holds. 0 stands for no node.
 using NodeId = quint32;
 
-/// Ordered list of nodes: what every service signal, command and property write carries.
+/// Ordered list of nodes: what every service signal, command and property write carries. Empty for none.
 using NodeList = QList<NodeId>;
 
 } // namespace QRPC

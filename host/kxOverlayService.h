@@ -26,8 +26,9 @@
 /// all, signal included, when nothing changes or the list is empty. No operation reports an error.
 ///
 /// **Signals.** The state is complete before a signal leaves; one operation sends at most one signal
-/// of each kind, with all nodes concerned, parents before children. Nothing that adds, removes,
-/// resets or selects nodes is announced from inside moveNodes(): it is queued until that returned.
+/// of each kind, with all nodes concerned, parents before children; its lists are never empty. Nothing
+/// that adds, removes, resets or selects nodes is announced from inside moveNodes(): it is queued until
+/// that returned.
 class KXHOST_EXPORT kxOverlayService : public kxBaseService
 {
     Q_OBJECT

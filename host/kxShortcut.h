@@ -16,10 +16,10 @@ public:
     /// One registered key.
     struct Entry
     {
-        QString category;    ///< translated name of the module
+        QString category;    ///< translated name of the module; empty for none
         int key;             ///< Qt::Key
         int modifiers;       ///< Qt::KeyboardModifiers
-        QString description; ///< translated name of the command
+        QString description; ///< translated name of the command; empty for none
     };
 
     kxShortcut() = delete;
@@ -33,7 +33,7 @@ public:
     static void addKey(const QString &category, int key, int modifiers, const QString &description);
 
     /// The text of a key with its modifiers.
-    /// @param key       Qt::Key; 0 for none
+    /// @param key       Qt::Key; 0 for none; any other number counts as a key, whatever its text
     /// @param modifiers Qt::KeyboardModifiers; 0 for none
     /// @param portable  in the form for files, which is the same on every platform, and not as the
     ///                  platform shows it in menus

@@ -17,8 +17,7 @@ DropCase row(const char *name, const char *before, const QRPC::NodeList &picked,
 
 } // namespace
 
-// One table, long as it has an entry for each drop.
-const QVector<DropCase> &DropCase::all() // NOLINT(readability-function-size)
+const QVector<DropCase> &DropCase::all()
 {
     static const QVector<DropCase> cases{
         row("onto a group", "a2 g3(b4) c5", {2}, 3, On, "[2] 3 -1", "g3(b4 a2) c5"),

@@ -78,8 +78,7 @@ QString ForeignDrop::before()
     return QString::fromLatin1(s_same);
 }
 
-// One table, long as it has an entry for each drop.
-const QVector<ForeignDrop> &ForeignDrop::all() // NOLINT(readability-function-size)
+const QVector<ForeignDrop> &ForeignDrop::all()
 {
     const QString overlays = DropData::overlayFormat();
     const QString trees = DropData::treeFormat();

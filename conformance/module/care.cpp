@@ -243,8 +243,7 @@ void expectFewRefreshes(ModuleBench &bench, const std::function<void()> &action)
     expectEqual("values read, at most three for a node", qMax(count, 3 * many), 3 * many);
 }
 
-// One table, long as it has an entry for each check.
-ModuleChecks costChecks() // NOLINT(readability-function-size)
+ModuleChecks costChecks()
 {
     return {
         {"cost.removal", "The panel is refreshed in proportion to a removal of many nodes.",

@@ -186,6 +186,16 @@ ModuleChecks dropMoveChecks() // NOLINT(readability-function-size)
                  [&] { bench.model().dropMimeData(&data, Qt::MoveAction, 0, 0, bench.index(3)); });
              expectEqual("calls", calls, QStringList());
          }},
+        {"drop.truncated", "A payload that ends within a record is read as far as it goes.",
+         [](ModuleBench &bench) {
+             bench.open("a2 b3 g4()");
+             bench.service().setApplies(false);
+             QMimeData data;
+             data.setData(s_overlays, payload({{2, 1}, {3, 1}}).chopped(4));
+             const QStringList calls = bench.commandsOf(
+                 [&] { bench.model().dropMimeData(&data, Qt::MoveAction, -1, 0, bench.index(4)); });
+             expectEqual("calls", calls, QStringList("moveNodes [2,3] 4 -1"));
+         }},
         {"drop.treeTypeFirst", "Where both types are present that of trees is read.",
          [](ModuleBench &bench) {
              bench.open("a2 b3 g4()");

@@ -48,8 +48,7 @@ ModuleChecks tableChecks()
     return checks;
 }
 
-// One table, long as it has an entry for each check.
-ModuleChecks otherChecks() // NOLINT(readability-function-size)
+ModuleChecks otherChecks()
 {
     return {
         {"foreign.copy", "Nodes from elsewhere that are to be copied are refused.",

@@ -198,6 +198,21 @@ ModuleChecks effectChecks() // NOLINT(readability-function-size)
              });
              expectEqual("calls", calls, QStringList());
          }},
+        {"key.menuLeavesEvent", "A right click reaches the tree view too.",
+         [](ModuleBench &bench) {
+             bench.open("a2");
+             bench.window().show();
+             QTimer::singleShot(0, &bench.menu(), [&bench] { bench.menu().close(); });
+             bench.tree().setContextMenuPolicy(Qt::CustomContextMenu);
+             bool heard = false;
+             const auto connection = QObject::connect(
+                 &bench.tree(), &QWidget::customContextMenuRequested, [&heard] { heard = true; });
+             QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5));
+             QCoreApplication::sendEvent(&bench.tree(), &event);
+             QObject::disconnect(connection);
+             bench.tree().setContextMenuPolicy(Qt::DefaultContextMenu);
+             expect("the view has seen it", heard);
+         }},
         {"key.menuAtMouse", "A right click opens the menu, which can be left again.",
          [](ModuleBench &bench) {
              bench.open("a2");

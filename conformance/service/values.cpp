@@ -22,8 +22,7 @@ struct Write
     QStringList announced;
 };
 
-// One table, long as it has a row for each write.
-std::vector<Write> writes() // NOLINT(readability-function-size)
+std::vector<Write> writes()
 {
     using Id = QRPC::NodeId;
     return {

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void shouldGoOnBehindACheckThat();
     void shouldStopAtTheFirstFailureOnDemand_data();
     void shouldStopAtTheFirstFailureOnDemand();
+    void shouldHelp();
     void shouldListWithoutALibrary();
     void shouldHaveItsSubjectsInTheDocument();
     void shouldRefuse_data();
@@ -132,6 +133,16 @@ void tst_conformanceProgram::shouldStopAtTheFirstFailureOnDemand()
     QVERIFY(seen.lines.at(seen.lines.size() - 2).startsWith("FAIL"));
 }
 
+void tst_conformanceProgram::shouldHelp()
+{
+    const Run seen = run({"--help"});
+    QCOMPARE(seen.code, 0);
+    QCOMPARE(seen.error, QString());
+    QVERIFY(seen.lines.first().startsWith("Usage: conformance"));
+    QVERIFY2(seen.lines.last().startsWith("Returns 0 when all checks hold"),
+             qPrintable(seen.lines.last()));
+}
+
 void tst_conformanceProgram::shouldListWithoutALibrary()
 {
     const Run seen = run({"--list"});
@@ -166,7 +177,9 @@ void tst_conformanceProgram::shouldRefuse_data()
     QTest::newRow("an unknown option") << QStringList{"--what"} << "what";
     QTest::newRow("a stray word") << QStringList{"what"} << "'what' is no option";
     QTest::newRow("no time") << QStringList{"--host", BROKEN_HOST, "--timeout", "0"} << "timeout";
-    QTest::newRow("no such file") << QStringList{"--host", "/no/such.so"} << "/no/such.so";
+    QTest::newRow("no such file") << QStringList{"--host", "/no/such.so"}
+                                  << "there is no file /no/such.so";
+    QTest::newRow("no library") << QStringList{"--host", DOCUMENT} << "CONFORMANCE.md";
     QTest::newRow("no entry") << QStringList{"--plugin", BROKEN_HOST}
                               << "does not export initPlugin";
     QTest::newRow("no such check")

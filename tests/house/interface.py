@@ -3,10 +3,12 @@
 # SPDX-License-Identifier: MIT
 """Fails where the host interface is not documented to the end.
 
-Doxygen warns of every public class, operation, signal and parameter without a meaning. Beyond that, in
-the words of an operation:
-- a number has a unit or a range;
-- what can be "none" (a pointer, a text, a colour, an icon, a node, a list) says what stands for it;
+Doxygen warns of every public class, operation, signal and parameter without a meaning. Beyond that:
+- a number has a unit or a range, given, taken or kept in a record;
+- what can be "none" (a pointer, a text, a colour, an icon, a node) says what stands for it;
+- what is asked of a node has an answer for unknown ones, and a class names its thread;
+- an operation on nodes, or its class, says what becomes of ids that it does not know, a signal that
+  carries nodes that there is always one;
 - an operation that takes more than yes or no, or its class, says what becomes of what is wrong.
 
 Usage: interface.py ROOT
@@ -27,8 +29,14 @@ UNIT = re.compile(r"\d|\b(?:points?|pixels?|degrees|metres|index|row|numbers?|un
                   r"|bits?|coordinates|reserved)\b")
 NONE = re.compile(r"\b(?:none|null|empty|0|invalid|never|valid|any|unique|kept too|opaque"
                   r"|as in the constructor|average)\b")
-WRONG = re.compile(r"\b(?:error|errors|ignored|ignores|ignore|skips|skipped|reports|reported|refused"
-                   r"|warning|nothing happens|kept|null|none|unknown|empty|count|counts|never|any)\b")
+NONE_OF_NUMBERS = re.compile(r"\bnone: .*|\b0 for none\b")
+NOTHING_FOUND = re.compile(r"\b(?:none|unknown)\b")
+UNKNOWN = re.compile(r"\b(?:any id|unknown ids?|is skipped|is none of these)\b")
+SKIPPED = re.compile(r"\bskips 0, unknown ids\b")
+FILLED = re.compile(r"\bnever empty\b")
+WRONG = re.compile(r"\b(?:errors?|ignored?|ignores|skips|skipped|reports?|reported|refused|warning"
+                   r"|nothing happens|kept|counts? as|any id|any bits|unknown)\b")
+NO_ERROR = re.compile(r"\bNo operation (?:has|reports) an error\b")
 WORDS = " ".join
 
 
@@ -36,9 +44,13 @@ def text_of(element):
     return WORDS("".join(element.itertext()).split()) if element is not None else ""
 
 
+def comment_of(element):
+    return WORDS(text_of(element.find(part)) for part in ("briefdescription", "detaileddescription"))
+
+
 def described(member):
     """What the comment of a member says in all, of each parameter, and of what it gives."""
-    whole = WORDS(text_of(member.find(part)) for part in ("briefdescription", "detaileddescription"))
+    whole = comment_of(member)
     parts = {name.text: text_of(item.find("parameterdescription"))
              for item in member.iter("parameteritem") for name in item.iter("parametername")}
     gives = WORDS(text_of(part) for part in member.iter("simplesect") if part.get("kind") == "return")
@@ -47,46 +59,84 @@ def described(member):
 
 def lacks(kind, says):
     """What the words about a value of a type leave open."""
-    if NUMBER.search(kind) and not UNIT.search(says):
+    if NUMBER.search(kind) and not UNIT.search(NONE_OF_NUMBERS.sub("", says)):
         yield "no unit or range"
     if (OPTIONAL.search(kind) or NODES.search(kind)) and not NONE.search(says):
         yield "nothing about none"
+
+
+def lacks_of_nodes(member, says, around):
+    """The same of a parameter that is a node or a list of nodes."""
+    if member.get("kind") == "signal":
+        if not FILLED.search(f"{says} {around}"):
+            yield "nothing about an empty list"
+    elif not UNKNOWN.search(says) and not SKIPPED.search(around):
+        yield "nothing about unknown ids"
+
+
+def can_be_wrong(kind, says):
+    """Whether a parameter has values that are neither right nor none."""
+    has_none = OPTIONAL.search(kind) and not re.search(r"\bnever (?:null|empty)\b", says)
+    return not has_none and kind not in ("bool", "typename T", "class T")
 
 
 def gaps(member, around):
     """What the comment of one operation or signal leaves open; `around` is that of its class."""
     whole, parts, gives = described(member)
     kind = text_of(member.find("type"))
-    for param in member.iter("param"):
-        name = param.findtext("declname")
-        # Lists and ids of nodes are read as their class says: unknown ones are skipped.
-        if name and not NODES.search(text_of(param.find("type"))):
-            for gap in lacks(text_of(param.find("type")), parts.get(name, "")):
-                yield f"{gap} at `{name}`"
+    doubtful = asked = False
+    for name in member.findall("templateparamlist/param/type"):
+        if name.text.split()[-1] not in parts:
+            yield f"nothing about `{name.text}`"
+    for param in member.findall("param"):
+        name, taken = param.findtext("declname"), text_of(param.find("type"))
+        says = parts.get(name, "")
+        doubtful = doubtful or can_be_wrong(taken, says)
+        if not name:
+            continue
+        if not says:
+            yield f"nothing about `{name}`"
+            continue
+        found = (lacks_of_nodes(member, f"{says} {gives}", around) if NODES.search(taken)
+                 else lacks(taken, says))
+        yield from (f"{gap} at `{name}`" for gap in found)
+        asked = asked or taken == "QRPC::NodeId"
     if kind and kind != "void" and "virtual void" not in kind:
         yield from (f"{gap} at what it gives" for gap in lacks(kind, gives))
-    taken = [text_of(param.find("type")) for param in member.iter("param")]
-    can_be_wrong = member.get("kind") == "function" and set(taken) - {"bool", "typename T", "class T"}
-    if can_be_wrong and not WRONG.search(f"{whole} {around}"):
+        if asked and not NOTHING_FOUND.search(gives):
+            yield "nothing about what it gives for an unknown node"
+    if doubtful and member.get("kind") != "signal" and not (WRONG.search(whole) or NO_ERROR.search(around)):
         yield "nothing about what is wrong"
 
 
-def is_public(member):
-    return member.get("prot") == "public" and member.get("kind") in ("function", "signal", "slot")
+def gaps_of_value(member):
+    """What the comment of a part of a record, a property or a type leaves open."""
+    kind = text_of(member.find("type")) + (member.findtext("name") if member.get("kind") == "typedef" else "")
+    return lacks(kind, described(member)[0])
+
+
+OPERATIONS = ("function", "signal", "slot")
+VALUES = ("variable", "property", "typedef")
 
 
 def unsaid(folder):
-    """The gaps of all classes whose pages are in a folder."""
+    """The gaps of all classes, records and functions whose pages are in a folder."""
     for page in sorted(pathlib.Path(folder).glob("*.xml")):
         for compound in ET.parse(page).getroot().iter("compounddef"):
-            if compound.get("kind") not in ("class", "struct"):
+            if compound.get("kind") not in ("class", "struct", "namespace", "file"):
                 continue
-            around = text_of(compound.find("detaileddescription"))
-            for member in filter(is_public, compound.iter("memberdef")):
-                for gap in gaps(member, around):
+            around = comment_of(compound)
+            if compound.get("kind") == "class" and "thread" not in around:
+                place = compound.find("location")
+                yield f"{place.get('file')}:{place.get('line')}: nothing about threads"
+            for member in compound.iter("memberdef"):
+                if member.get("prot") != "public" or member.get("kind") not in OPERATIONS + VALUES:
+                    continue
+                found = gaps(member, around) if member.get("kind") in OPERATIONS else gaps_of_value(member)
+                for gap in found:
                     place = member.find("location")
                     yield (f"{place.get('file')}:{place.get('line')}: "
-                           f"{member.findtext('qualifiedname')}: {gap}")
+                           f"{member.findtext('qualifiedname') or member.findtext('name')}: {gap}")
 
 
 def faults(root):

@@ -148,6 +148,10 @@ class Rules(Tree):
         long = '        {"a", [] {\n' + "             b();\n" * 61 + "         }},\n"
         self.assertEqual(self.long("a.cpp", head, 1, table.format(long)), wrong)
 
+    def test_should_find_a_table_that_is_declared_without_need(self):
+        self.assertEqual(self.long("a.cpp", "Rows rows() " + rules.TABLE, 60),
+                         ["what is declared to be a table is short enough for a function"])
+
     def test_should_find_a_long_function_of_python(self):
         head = PY_LICENSE + "\n\ndef f():\n"
         self.assertEqual(self.check("a.py", head + "    a()\n" * 60), [])
@@ -236,7 +240,7 @@ class Duplicates(Tree):
 
 
 class Interface(Tree):
-    START = "/// A service of the host. Unknown ids are ignored.\nclass A\n{\npublic:\n"
+    START = "/// A service of the host, free of any thread. No operation has an error.\nclass A\n{\npublic:\n"
 
     def check(self, declarations, start=START):
         """What is found in a class, without the place."""
@@ -273,8 +277,57 @@ Q_SIGNALS:
                             "/// Does it.\n    void a(bool way);",
                             "/// Does it.\n    bool a();"):
             with self.subTest(declaration=declaration):
-                self.assertEqual(len(self.check(f"    {declaration}\n")), 1)
-        self.assertEqual(len(self.check("", "class A\n{\npublic:\n    int a = 0; ///< a row\n")), 1)
+                self.assertTrue(self.check(f"    {declaration}\n"))
+        self.assertTrue(self.check("", "class A\n{\npublic:\n    int a = 0; ///< a row\n"))
+
+    def test_should_miss_what_is_said_of_no_node(self):
+        self.assertEqual(self.check("""
+    /// Renames nodes.
+    /// @param nodes those
+    void rename(const QRPC::NodeList &nodes);
+
+    /// Finds one.
+    /// @param node any id
+    /// @return its parent
+    QRPC::NodeId find(QRPC::NodeId node);
+
+Q_SIGNALS:
+    /// Nodes were renamed.
+    /// @param nodes those
+    void renamed(const QRPC::NodeList &nodes);
+""", "/// A service on one thread. No operation has an error.\nclass A\n{\npublic:\n"), [
+            "A::rename: nothing about unknown ids at `nodes`",
+            "A::find: nothing about none at what it gives",
+            "A::find: nothing about what it gives for an unknown node",
+            "A::renamed: nothing about an empty list at `nodes`"])
+
+    def test_should_miss_a_parameter_of_a_signal(self):
+        self.assertEqual(self.check("""
+Q_SIGNALS:
+    /// A node was moved.
+    void moved(int way);
+"""), ["A::moved: nothing about `way`"])
+
+    def test_should_miss_the_thread_of_a_class(self):
+        self.assertEqual(self.check("", "/// A service.\nclass A\n{\npublic:\n"),
+                         ["nothing about threads"])
+
+    def test_should_take_no_none_for_a_unit(self):
+        self.assertEqual(self.check("""
+    /// The way. Has no error.
+    /// @return none: 0
+    int way();
+"""), ["A::way: no unit or range at what it gives"])
+
+    def test_should_miss_what_a_record_leaves_open(self):
+        self.assertEqual(self.check("    int a = 0; ///< how far\n    QString b; ///< the text\n",
+                                    "/// A record.\nstruct A\n{\n"),
+                         ["A::a: no unit or range", "A::b: nothing about none"])
+
+    def test_should_miss_the_error_of_an_operation_that_is_no_member(self):
+        self.add("host/b.h", "/// \\file\n/// One function.\n\n/// Goes on.\n/// @param way pixels\n"
+                             "void go(int way);\n")
+        self.assertEqual(self.check(""), ["go: nothing about what is wrong"])
 
     def test_should_miss_a_unit_a_none_and_what_is_wrong(self):
         self.assertEqual(self.check("""
@@ -283,7 +336,7 @@ Q_SIGNALS:
     /// @param by  who asks for it
     /// @return what was there before
     QString move(double way, QWidget *by);
-""", "/// A service.\nclass A\n{\npublic:\n"), [
+""", "/// A service on one thread.\nclass A\n{\npublic:\n"), [
             "A::move: no unit or range at `way`", "A::move: nothing about none at `by`",
             "A::move: nothing about none at what it gives",
             "A::move: nothing about what is wrong"])

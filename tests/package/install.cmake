@@ -30,12 +30,20 @@ want_files(
     ${LIBDIR}/cmake/kxhost/kxhostConfigVersion.cmake
     share/applications/overlay-viewer.desktop
     share/icons/hicolor/scalable/apps/overlay-viewer.svg
-    share/man/man1/overlay-viewer.1
+    share/man/man1/overlay-viewer.1.gz
+    share/man/man1/conformance.1.gz
+    share/doc/overlay-editor/README.md
+    share/doc/overlay-editor/copyright
+    share/doc/overlay-editor/api/index.html
+    share/doc/overlay-editor/api/classkxOverlayService.html
     ${DATADIR}/examples/title_sheet.json
     ${DATADIR}/examples/images/*.svg
     ${DATADIR}/docs/USER_GUIDE.md
     ${DATADIR}/docs/SCRIPTING.md
     ${DATADIR}/docs/HEADLESS.md
+    ${DATADIR}/docs/HOST_GUIDE.md
+    ${DATADIR}/docs/CONFORMANCE.md
+    ${DATADIR}/host/kxOverlayService.h
     ${DATADIR}/examples/minimal_host/CMakeLists.txt
     ${DATADIR}/translations/*_de.qm
     ${DATADIR}/translations/*_zh_CN.qm)
