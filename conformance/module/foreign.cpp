@@ -48,7 +48,7 @@ ModuleChecks tableChecks()
     return checks;
 }
 
-ModuleChecks otherChecks()
+ModuleChecks refusedChecks()
 {
     return {
         {"foreign.copy", "Nodes from elsewhere that are to be copied are refused.",
@@ -101,7 +101,7 @@ ModuleChecks otherChecks()
 
 ModuleChecks foreignChecks()
 {
-    return joined<ModuleBench>({tableChecks(), otherChecks()});
+    return joined<ModuleBench>({tableChecks(), refusedChecks()});
 }
 
 } // namespace conformance

@@ -6,11 +6,13 @@
 #include "host/QKXTextureControls.h"
 #include "host/kxIconManager.h"
 
+#include <QAbstractSlider>
 #include <QButtonGroup>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <QSignalBlocker>
 #include <QToolButton>
 
 namespace conformance {
@@ -40,6 +42,23 @@ void expectGroup(ModuleBench &bench, const char *first, const char *second)
     expectEqual("id of the second", one.group()->id(&other), 1);
     expectEqual("number of buttons", one.group()->buttons().size(), 2);
     expect("the editor owns the group", one.group()->parent() == &bench.editor());
+}
+
+/// What the handle of the size slider gives at its first place, its second one and its last one.
+QString handleOf(ModuleBench &bench)
+{
+    auto &slider = bench.form<QKXSlider>("_size_slider");
+    auto *handle = slider.findChild<QAbstractSlider *>();
+    expect("the slider has a handle", handle != nullptr);
+    const QSignalBlocker blocker(slider); // nothing is to be written
+    QStringList values;
+    handle->setSliderDown(true);
+    for (const int place : {handle->maximum(), 1, 0}) {
+        handle->setSliderPosition(place);
+        values.prepend(QString::number(slider.value()));
+    }
+    handle->setSliderDown(false);
+    return values.join(' ');
 }
 
 } // namespace
@@ -97,6 +116,17 @@ ModuleChecks panelChecks() // NOLINT(readability-function-size)
              expectEqual("lower end", slider.value(), 0.0);
          },
          Stage::Fresh},
+        {"size.handle", "The handle goes to 200 by points, and to 1 by hundredths.",
+         [](ModuleBench &bench) {
+             bench.open("a2 b3");
+             bench.node(2).size = 50;
+             bench.node(3).sizeType = 1;
+             bench.node(3).size = 0.5;
+             bench.select({3});
+             expectEqual("relative", handleOf(bench), QString("0 0.01 1"));
+             bench.select({2});
+             expectEqual("absolute", handleOf(bench), QString("0 1 200"));
+         }},
         {"panel.imageIcons", "The five buttons of the image line have their icons, in this order.",
          [](ModuleBench &bench) {
              QStringList shown;

@@ -6,13 +6,11 @@
 #include "kit/PanelProperty.h"
 #include "kit/widgets.h"
 
-#include <QAbstractSlider>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QRadioButton>
-#include <QSignalBlocker>
 
 #include <limits>
 
@@ -317,23 +315,6 @@ QString sizeOf(ModuleBench &bench)
     return QStringLiteral("%1%2").arg(slider.value()).arg(suffix);
 }
 
-/// What the handle of the size slider gives at its first place, its second one and its last one.
-QString handleOf(ModuleBench &bench)
-{
-    auto &slider = bench.form<QKXSlider>("_size_slider");
-    auto *handle = slider.findChild<QAbstractSlider *>();
-    expect("the slider has a handle", handle != nullptr);
-    const QSignalBlocker blocker(slider); // nothing is to be written
-    QStringList values;
-    handle->setSliderDown(true);
-    for (const int place : {handle->maximum(), 1, 0}) {
-        handle->setSliderPosition(place);
-        values.prepend(QString::number(slider.value()));
-    }
-    handle->setSliderDown(false);
-    return values.join(' ');
-}
-
 // One table, long as it has an entry for each check.
 ModuleChecks sizeChecks() // NOLINT(readability-function-size)
 {
@@ -354,17 +335,6 @@ ModuleChecks sizeChecks() // NOLINT(readability-function-size)
              expectEqual("size", sizeOf(bench), QString("0.25"));
              expect("relative is checked",
                     bench.form<QRadioButton>("_relative_radio_button").isChecked());
-         }},
-        {"size.handle", "The handle goes to 200 by points, and to 1 by hundredths.",
-         [](ModuleBench &bench) {
-             openTwo(bench);
-             bench.node(2).size = 50;
-             bench.node(3).sizeType = 1;
-             bench.node(3).size = 0.5;
-             bench.select({3});
-             expectEqual("relative", handleOf(bench), QString("0 0.01 1"));
-             bench.select({2});
-             expectEqual("absolute", handleOf(bench), QString("0 1 200"));
          }},
         {"size.mixedTypes", "Mixed size types switch the slider off and leave it as it was.",
          [](ModuleBench &bench) {
