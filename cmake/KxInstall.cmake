@@ -101,8 +101,9 @@ set(CPACK_PACKAGE_NAME overlay-editor)
 set(CPACK_PACKAGE_VENDOR "the Overlay Editor authors")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Editor for text and images that lie over a 3D view")
 set(CPACK_PACKAGE_DESCRIPTION
-    "A plug-in for 3D visualisation applications that manages their overlays, the host library and
-headers that it is built against, and a viewer to try it in.")
+    "A plug-in for 3D visualisation applications that manages their overlays,
+the host library and headers that it is built against, a viewer to try it in
+and a program that checks hosts and modules.")
 set(CPACK_PACKAGE_CONTACT "the Overlay Editor authors <overlay-editor@localhost>")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
