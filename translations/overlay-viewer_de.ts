@@ -962,6 +962,10 @@ Ein Lauf ohne Fenster gibt zurück:
         <source>Untitled</source>
         <translation>Unbenannt</translation>
     </message>
+    <message>
+        <source>The scene was not opened.</source>
+        <translation>Die Szene wurde nicht geöffnet.</translation>
+    </message>
 </context>
 <context>
     <name>viewer::SceneReader</name>

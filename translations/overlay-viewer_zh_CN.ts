@@ -961,6 +961,10 @@ A headless run returns:
         <source>Untitled</source>
         <translation>未命名</translation>
     </message>
+    <message>
+        <source>The scene was not opened.</source>
+        <translation>未打开场景。</translation>
+    </message>
 </context>
 <context>
     <name>viewer::SceneReader</name>

@@ -83,7 +83,8 @@ QString FileQuestions::fileToSave(const QString &current)
     QFileDialog dialog(m_window, tr("Save Scene"), QFileInfo(current).absolutePath(), filters());
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QStringLiteral("json"));
-    dialog.selectFile(current.isEmpty() ? tr("untitled.json") : QFileInfo(current).fileName());
+    const QString name = QFileInfo(current).fileName();
+    dialog.selectFile(name.isEmpty() ? tr("untitled.json") : name);
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 

@@ -33,10 +33,10 @@ public:
     /// or not now.
     virtual Answer aboutRecovery(const QString &name, const QString &when);
 
-    /// A file to open; empty for none.
+    /// A file to open; empty for none. `current` is where to begin, a file or a folder and a slash.
     virtual QString fileToOpen(const QString &current);
 
-    /// A file to save in; empty for none. The user has agreed to overwrite it.
+    /// A file to save in; empty for none. `current` as above. The user has agreed to overwrite it.
     virtual QString fileToSave(const QString &current);
 
     /// A script to run; empty for none. `last` is the one that was run before.

@@ -71,7 +71,7 @@ void SceneDocument::startNew()
 
 void SceneDocument::chooseAndOpen()
 {
-    const QString file = m_questions->fileToOpen(m_path);
+    const QString file = m_questions->fileToOpen(lastPlace());
     if (!file.isEmpty())
         open(file);
 }
@@ -89,7 +89,8 @@ bool SceneDocument::load(const QString &file)
     const FileState state = stateOf(file); // before what is read
     SceneReading reading = SceneReader::read(file);
     if (!reading.scene) {
-        emit reported(Severity::Error, reading.error);
+        emit reported(Severity::Error,
+                      tr("The scene was not opened.") + QLatin1Char('\n') + reading.error);
         return false;
     }
     emit aboutToReplace();
@@ -127,7 +128,7 @@ bool SceneDocument::save()
 bool SceneDocument::saveAs()
 {
     emit editsWanted();
-    const QString file = m_questions->fileToSave(m_path);
+    const QString file = m_questions->fileToSave(lastPlace());
     return !file.isEmpty() && write(QFileInfo(file).absoluteFilePath());
 }
 
@@ -168,6 +169,16 @@ void SceneDocument::setPath(const QString &path)
     m_path = path;
     m_service->setImageFolder(path.isEmpty() ? QString() : QFileInfo(path).absolutePath());
     emit pathChanged(path);
+}
+
+/// Where a dialog for files begins: at the scene's file or, without one, in the folder of the scene that
+/// was open last.
+QString SceneDocument::lastPlace() const
+{
+    const QString last = recentFiles().value(0);
+    if (!m_path.isEmpty() || last.isEmpty())
+        return m_path;
+    return QFileInfo(last).absolutePath() + QLatin1Char('/');
 }
 
 QStringList SceneDocument::recentFiles() const

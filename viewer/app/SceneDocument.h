@@ -97,6 +97,7 @@ private:
     bool mayWrite();
     bool write(const QString &file);
     void setPath(const QString &path);
+    QString lastPlace() const;
     void remember(const QString &file);
 
     OverlayService *m_service;

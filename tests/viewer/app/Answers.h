@@ -27,11 +27,19 @@ public:
         overwritten.append(name);
         return answer == Answer::Save;
     }
-    QString fileToOpen(const QString &) override { return file; }
-    QString fileToSave(const QString &) override { return file; }
+    QString fileToOpen(const QString &current) override { return fileFor(current); }
+    QString fileToSave(const QString &current) override { return fileFor(current); }
 
     Answer answer = Answer::Cancel;
     QString file;
     QStringList asked;
     QStringList overwritten;
+    QString begunAt;
+
+private:
+    QString fileFor(const QString &current)
+    {
+        begunAt = current;
+        return file;
+    }
 };

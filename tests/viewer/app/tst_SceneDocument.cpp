@@ -44,6 +44,7 @@ private Q_SLOTS:
     void shouldTakeImagesFromTheFoldersOfItsFiles();
     void shouldTellWhatBecomesOfTheScene();
     void shouldTellWhatCouldNotBeSavedAsItIs();
+    void shouldBeginWhereTheLastSceneWas();
     void shouldListRecentFiles();
     void shouldHaveAKeyForEachCommandOnEveryDesktop();
 
@@ -354,6 +355,23 @@ void tst_SceneDocument::shouldTellWhatCouldNotBeSavedAsItIs()
     QVERIFY(m_document->save());
     QCOMPARE(reports.count(), 1);
     QVERIFY(reports.first().at(1).toString().contains(m_service->getName(node)));
+}
+
+void tst_SceneDocument::shouldBeginWhereTheLastSceneWas()
+{
+    m_document->chooseAndOpen();
+    QCOMPARE(m_answers->begunAt, QString());
+    m_answers->file = file("a.json");
+    QVERIFY(m_document->save());
+    m_answers->file.clear();
+    m_document->chooseAndOpen();
+    QCOMPARE(m_answers->begunAt, file("a.json"));
+    m_document->startNew();
+    m_document->chooseAndOpen();
+    QCOMPARE(m_answers->begunAt, file("") + "/");
+    m_answers->begunAt.clear();
+    m_document->save();
+    QCOMPARE(m_answers->begunAt, file("") + "/");
 }
 
 void tst_SceneDocument::shouldListRecentFiles()
