@@ -776,8 +776,8 @@ Ein Lauf ohne Fenster gibt zurück:
         <translation>Unbenannt</translation>
     </message>
     <message>
-        <source>%1[*] - %2</source>
-        <translation>%1[*] - %2</translation>
+        <source>%1[*] — %2</source>
+        <translation>%1[*] — %2</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -834,6 +834,10 @@ Ein Lauf ohne Fenster gibt zurück:
     <message>
         <source>User &amp;Guide</source>
         <translation>Benutzer&amp;handbuch</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>&amp;Verlauf</translation>
     </message>
 </context>
 <context>

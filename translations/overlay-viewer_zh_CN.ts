@@ -776,8 +776,8 @@ A headless run returns:
         <translation>未命名</translation>
     </message>
     <message>
-        <source>%1[*] - %2</source>
-        <translation>%1[*] - %2</translation>
+        <source>%1[*] — %2</source>
+        <translation>%1[*] — %2</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -834,6 +834,10 @@ A headless run returns:
     <message>
         <source>User &amp;Guide</source>
         <translation>用户指南(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>历史记录(&amp;H)</translation>
     </message>
 </context>
 <context>

@@ -8,6 +8,7 @@
 #include "viewer/scene/SceneWriter.h"
 
 using namespace viewer;
+using QRPC::NodeId;
 
 /// Overlays picked and moved in the view of the running viewer, with the real mouse and keys, beside
 /// the tree of the plug-in.
@@ -26,6 +27,7 @@ private:
     void snapToTheMiddle();
     void putBack();
     void nudge();
+    void workOnWhatIsPicked();
 
     QPoint middleOf(const QString &name) const;
     QPointF offsetOf(const QString &name) const;
@@ -87,6 +89,7 @@ void tst_viewer_editing::shouldEditInTheView()
     snapToTheMiddle();
     putBack();
     nudge();
+    workOnWhatIsPicked();
     m_painter.reset();
 }
 
@@ -209,6 +212,23 @@ void tst_viewer_editing::nudge()
     QTRY_COMPARE(offsetOf("Draft"), offset);
     realInput::key("Escape");
     QTRY_COMPARE(selectedNames(), QStringList());
+}
+
+/// The keys of the tree and of its moves, without going there.
+void tst_viewer_editing::workOnWhatIsPicked()
+{
+    const QStringList rows = topRows();
+    click(middleOf("Draft"));
+    QTRY_COMPARE(selectedNames(), QStringList("Draft"));
+    realInput::key("alt+Up");
+    QTRY_COMPARE(topRows().indexOf("Draft"), rows.indexOf("Draft") - 1);
+    QCOMPARE(selectedNames(), QStringList("Draft"));
+    realInput::key("ctrl+d");
+    QTRY_COMPARE(selectedNames(), QStringList("Draft Copy"));
+    realInput::key("Delete");
+    QTRY_COMPARE(nodeOf("Draft Copy"), NodeId(0));
+    QVERIFY(m_view->hasFocus());
+    QCOMPARE(steps(), 3);
 }
 
 KX_TEST_MAIN(tst_viewer_editing)

@@ -14,6 +14,18 @@ EditFocus::EditFocus(QObject *parent) : QObject(parent), m_widget(QApplication::
     connect(qApp, &QApplication::focusChanged, this, &EditFocus::follow);
 }
 
+void EditFocus::includeArea(const QWidget *area, const ViewSelection *selection)
+{
+    m_area = area;
+    m_selection = selection;
+}
+
+NodeView EditFocus::nodeView() const
+{
+    const bool isInArea = m_area && m_selection && m_widget && m_area->isAncestorOf(m_widget);
+    return isInArea ? m_selection->nodeView() : NodeView(m_widget);
+}
+
 void EditFocus::follow(const QWidget *old, QWidget *now)
 {
     Q_UNUSED(old)

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "viewer/app/NodeView.h"
 #include "viewer/app/TextField.h"
+#include "viewer/app/ViewSelection.h"
 
 #include <QObject>
 
@@ -20,8 +20,11 @@ class EditFocus : public QObject
 public:
     explicit EditFocus(QObject *parent = nullptr);
 
+    /// Counts what is in `area` as the module's view whose selection is seen and made there.
+    void includeArea(const QWidget *area, const ViewSelection *selection);
+
     /// The view of nodes that has the focus; none for any other widget.
-    NodeView nodeView() const { return NodeView(m_widget); }
+    NodeView nodeView() const;
 
     /// The text field that has it.
     TextField textField() const { return TextField(m_widget); }
@@ -34,6 +37,8 @@ private:
     void follow(const QWidget *old, QWidget *now);
 
     QPointer<QWidget> m_widget;
+    QPointer<const QWidget> m_area;
+    QPointer<const ViewSelection> m_selection;
 };
 
 } // namespace viewer

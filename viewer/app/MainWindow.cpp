@@ -42,6 +42,11 @@ QIcon icon(const char *name)
     return kxIconManager::getIcon(name, std::string());
 }
 
+QString firstLine(const QString &text)
+{
+    return text.section(QLatin1Char('\n'), 0, 0);
+}
+
 /// The one local file that is dragged; empty for anything else.
 QString droppedFile(const QDropEvent &event)
 {
@@ -90,7 +95,7 @@ void MainWindow::setScenePath(const QString &path)
 {
     const QString application = QApplication::applicationDisplayName();
     const QString name = path.isEmpty() ? tr("Untitled") : QFileInfo(path).fileName();
-    setWindowTitle(tr("%1[*] - %2").arg(name, application));
+    setWindowTitle(tr("%1[*] — %2").arg(name, application));
 }
 
 void MainWindow::finishEdits()
@@ -109,7 +114,14 @@ void MainWindow::notify(Severity severity, const QString &text)
 {
     m_viewArea->notices()->add(severity, text);
     if (severity != Severity::Info)
-        statusBar()->showMessage(text.section(QLatin1Char('\n'), 0, 0));
+        statusBar()->showMessage(firstLine(text));
+}
+
+/// What is no trouble any more does not stand in the status bar either.
+void MainWindow::forgetNotice(const QString &text)
+{
+    if (statusBar()->currentMessage() == firstLine(text))
+        statusBar()->clearMessage();
 }
 
 void MainWindow::restoreLayout(const QSettings &settings)
@@ -199,6 +211,7 @@ void MainWindow::addHistory(QDockWidget *panel)
     panel->hide();
     QAction *show = panel->toggleViewAction();
     show->setObjectName(QStringLiteral("showHistory"));
+    show->setText(tr("&History"));
     m_viewMenu->addSeparator();
     m_viewMenu->addAction(show);
     // As wide as a list needs to be; the view is what the window is for.
@@ -239,6 +252,7 @@ void MainWindow::createStatusBar()
     statusBar()->addPermanentWidget(m_backgroundLabel);
     connect(m_viewArea, &ViewArea::backgroundChanged, this,
             [this] { m_backgroundLabel->setText(m_viewArea->backgroundText()); });
+    connect(m_viewArea->notices(), &NoticeArea::dismissed, this, &MainWindow::forgetNotice);
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent *event)

@@ -91,6 +91,7 @@ private:
     void createModulesMenu();
     void createHelpMenu();
     void createStatusBar();
+    void forgetNotice(const QString &text);
     void toggleFullScreen(bool on);
     QVector<kxShortcut::Entry> ownKeys(KeyScope scope) const;
     void showShortcuts();

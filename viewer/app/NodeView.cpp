@@ -3,6 +3,7 @@
 
 #include "viewer/app/NodeView.h"
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QTreeView>
 
@@ -105,6 +106,21 @@ void NodeView::select(const QRPC::NodeList &nodes)
     const QItemSelection selection = rangesOf(rows);
     m_view->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
     m_view->selectionModel()->setCurrentIndex(rows.value(0), QItemSelectionModel::NoUpdate);
+}
+
+void NodeView::makeSelectionCurrent()
+{
+    if (!m_view)
+        return;
+    QItemSelectionModel *selection = m_view->selectionModel();
+    const QItemSelection ranges = selection->selection();
+    if (!ranges.isEmpty() && !selection->isSelected(selection->currentIndex()))
+        selection->setCurrentIndex(ranges.constFirst().topLeft(), QItemSelectionModel::NoUpdate);
+}
+
+bool NodeView::send(QEvent *event)
+{
+    return m_view && QCoreApplication::sendEvent(m_view, event) && event->isAccepted();
 }
 
 /// The rows of nodes, in the order of the list.

@@ -9,6 +9,7 @@
 #include <QPointer>
 
 class QAbstractItemView;
+class QEvent;
 class QItemSelectionModel;
 class QWidget;
 
@@ -44,6 +45,13 @@ public:
 
     /// Makes the rows of nodes the selection, in one change, and brings the first into view.
     void select(const QRPC::NodeList &nodes);
+
+    /// Has the keys of the view go on from the selection, where they would from a row that is not
+    /// selected. The selection stays as it is.
+    void makeSelectionCurrent();
+
+    /// Lets the view have an event as its own. False when there is no view, or it has no use for it.
+    bool send(QEvent *event);
 
 private:
     QModelIndexList rowsOf(const QRPC::NodeList &nodes) const;

@@ -15,6 +15,8 @@ namespace viewer {
 namespace {
 
 constexpr int MostNotices = 4;
+constexpr int LeastReading = 6000; // milliseconds
+constexpr int ReadingOfLetter = 60;
 // Lengths on a display of the usual density.
 constexpr int Margin = 12;
 constexpr int Spacing = 6;
@@ -75,6 +77,13 @@ Notice::Notice(Severity severity, const QString &text, QWidget *parent)
 {
     setAccessibleName(text);
     connect(m_button, &QToolButton::clicked, this, &Notice::dismissed);
+    connect(&m_reading, &QTimer::timeout, this, [this] {
+        // Nobody reads in a window behind others, and what the mouse is on is still being read.
+        if (isActiveWindow() && !underMouse())
+            emit dismissed();
+    });
+    if (severity == Severity::Info)
+        m_reading.start(LeastReading + text.size() * ReadingOfLetter);
 }
 
 QString Notice::text() const
@@ -148,6 +157,14 @@ void NoticeArea::add(Severity severity, const QString &text)
     place();
 }
 
+bool NoticeArea::dismissNewest()
+{
+    if (m_notices.isEmpty())
+        return false;
+    dismiss(m_notices.constFirst());
+    return true;
+}
+
 void NoticeArea::clear()
 {
     while (!m_notices.isEmpty())
@@ -184,6 +201,7 @@ void NoticeArea::dismiss(Notice *notice)
     notice->deleteLater();
     setVisible(!m_notices.isEmpty());
     place();
+    emit dismissed(notice->text());
 }
 
 } // namespace viewer

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QStringList>
+#include <QTimer>
 #include <QWidget>
 
 class QLabel;
@@ -42,10 +43,12 @@ private:
     const Severity m_severity;
     QLabel *m_label;
     QToolButton *m_button;
+    QTimer m_reading{this}; // of a message that asks for nothing
 };
 
 /// The stack of messages that floats over the top of the view. Nothing in it blocks the user: each
-/// message stays until it is dismissed, cleared, or pushed out by newer ones. Owned by the view area.
+/// message stays until it is dismissed, cleared, or pushed out by newer ones; one of no urgency goes by
+/// itself once it was there long enough to be read. Owned by the view area.
 class NoticeArea : public QWidget
 {
     Q_OBJECT
@@ -56,6 +59,9 @@ public:
     /// Shows a message at the top. A text that stands there already is not shown twice.
     void add(Severity severity, const QString &text);
 
+    /// Takes the newest message away. False when there is none.
+    bool dismissNewest();
+
     /// Takes all messages away.
     void clear();
 
@@ -64,6 +70,10 @@ public:
 
     /// Fits the area to the top of its parent, as wide as the parent allows.
     void place();
+
+Q_SIGNALS:
+    /// A message was taken away.
+    void dismissed(const QString &text);
 
 private:
     void dismiss(Notice *notice);

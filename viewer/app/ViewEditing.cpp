@@ -3,14 +3,31 @@
 
 #include "viewer/app/ViewEditing.h"
 
+#include "host/kxShortcut.h"
+#include "viewer/app/NoticeArea.h"
 #include "viewer/app/ViewArea.h"
 #include "viewer/edit/ReadOut.h"
 
+#include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 
+#include <algorithm>
+
 namespace viewer {
+
+namespace {
+
+bool isKeyOfModules(const QKeyEvent &event)
+{
+    const QVector<kxShortcut::Entry> keys = kxShortcut::registeredKeys();
+    return std::any_of(keys.begin(), keys.end(), [&event](const kxShortcut::Entry &key) {
+        return key.key == event.key() && key.modifiers == int(event.modifiers());
+    });
+}
+
+} // namespace
 
 ViewEditing::ViewEditing(OverlayService *service, OverlayPainter *painter, ViewArea *area)
     : QObject(area)
@@ -58,6 +75,8 @@ bool ViewEditing::handle(QEvent *event)
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
         return pressKey(*static_cast<QKeyEvent *>(event));
+    case QEvent::ContextMenu:
+        return openMenu(*static_cast<QContextMenuEvent *>(event));
     case QEvent::Leave:
         m_place.reset();
         return false;
@@ -96,7 +115,31 @@ bool ViewEditing::pressKey(const QKeyEvent &event)
     const bool isTaken = isDown ? m_gesture.keyPress(event) : m_gesture.keyRelease(event);
     if (QGuiApplication::mouseButtons() == Qt::NoButton)
         showCursor(modifiersAfter(event));
-    return isTaken;
+    if (isTaken || !isDown)
+        return isTaken;
+    if (event.key() == Qt::Key_Escape && event.modifiers() == Qt::NoModifier)
+        return m_area->notices()->dismissNewest();
+    return sendKeyOfModules(event);
+}
+
+/// Modules watch for their keys in their own view of the nodes, but what is picked here is selected
+/// there too.
+bool ViewEditing::sendKeyOfModules(const QKeyEvent &event)
+{
+    if (!isKeyOfModules(event))
+        return false;
+    QKeyEvent theirs(event);
+    return m_selection.nodeView().send(&theirs);
+}
+
+/// The module's menu, for what is selected once the overlay under the mouse is among it.
+bool ViewEditing::openMenu(const QContextMenuEvent &event)
+{
+    if (event.reason() == QContextMenuEvent::Mouse && !m_gesture.pickForMenu(event.pos()))
+        return true;
+    QContextMenuEvent theirs(event);
+    m_selection.nodeView().send(&theirs);
+    return true;
 }
 
 void ViewEditing::showCursor(Qt::KeyboardModifiers modifiers)

@@ -36,6 +36,8 @@ private:
     bool pressMouse(const QMouseEvent &event);
     bool moveMouse(const QMouseEvent &event);
     bool pressKey(const QKeyEvent &event);
+    bool sendKeyOfModules(const QKeyEvent &event);
+    bool openMenu(const QContextMenuEvent &event);
     void showCursor(Qt::KeyboardModifiers modifiers);
     EditFeedback feedback() const;
     void addPlace(QRPC::NodeId node, EditFeedback *feedback) const;

@@ -18,6 +18,10 @@ ViewSelection::ViewSelection(QWidget *window, const kxOverlayService *service, Q
             Qt::QueuedConnection);
     connect(service, &kxOverlayService::nodesAdded, this, &ViewSelection::look,
             Qt::QueuedConnection);
+    // And have selected what is new.
+    connect(
+        service, &kxOverlayService::nodesCreated, this, [this] { m_view.makeSelectionCurrent(); },
+        Qt::QueuedConnection);
 }
 
 QRPC::NodeList ViewSelection::nodes() const

@@ -26,6 +26,9 @@ public:
 
     QRPC::NodeList nodes() const;
 
+    /// The module's view that has the selection; none when no module shows nodes.
+    NodeView nodeView() const { return m_view; }
+
     /// Makes nodes the selection, in one change of the module's.
     void select(const QRPC::NodeList &nodes);
 

@@ -109,6 +109,7 @@ void ViewerSession::runGivenScript()
 void ViewerSession::fillEditMenu()
 {
     QMenu *menu = m_window->editMenu();
+    m_focus.includeArea(m_window->viewArea(), m_editing->selectionOfView());
     new UndoActions(overlays(), menu);
     new ClipboardActions(&m_clipboard, &m_focus, m_editing->selectionOfView(), menu);
     new MoveActions(overlays(), &m_focus, menu);
@@ -134,6 +135,7 @@ void ViewerSession::connectDocument()
                                            StatusTime);
     });
     connect(&m_document, &SceneDocument::saved, this, [this](const QString &path) {
+        m_window->viewArea()->notices()->clear(); // one before may have failed
         m_window->statusBar()->showMessage(tr("Saved %1").arg(QDir::toNativeSeparators(path)),
                                            StatusTime);
     });

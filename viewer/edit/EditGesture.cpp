@@ -123,6 +123,16 @@ bool EditGesture::release(const QMouseEvent &event)
     return wasTaken;
 }
 
+bool EditGesture::pickForMenu(const QPointF &place)
+{
+    if (isTaken())
+        return false;
+    const Ground ground = groundAt(toView(place));
+    if (!ground.order.isEmpty() && !moved().contains(ground.grip))
+        select({ground.order.first()});
+    return true;
+}
+
 void EditGesture::cancel()
 {
     const bool goesOn = isUnderWay();

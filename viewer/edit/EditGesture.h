@@ -45,6 +45,10 @@ public:
     bool keyPress(const QKeyEvent &event);
     bool keyRelease(const QKeyEvent &event);
 
+    /// Makes an overlay at a place a part of the selection, for a menu of what is selected. False
+    /// while a gesture is under way, which is no time for menus.
+    bool pickForMenu(const QPointF &place);
+
     /// Whether a key is meant for the gesture, whatever shortcuts it has elsewhere.
     bool claims(const QKeyEvent &event) const;
 

@@ -101,9 +101,7 @@ private Q_SLOTS:
     void shouldNameKeysThatStandForTwoCommands();
     void shouldOpenOneListOfShortcuts();
     void shouldSayThatThereIsNo3DView();
-    void shouldShowNoticesUntilTheyAreDismissed();
     void shouldShowAllLinesOfANotice();
-    void shouldKeepTheNewestNotices();
     void shouldHaveRoomForTheSignsOfANotice();
 
 private:
@@ -290,11 +288,11 @@ void tst_MainWindow::shouldKeepTheFullScreenSwitchInStepWithTheWindow()
 void tst_MainWindow::shouldNameTheSceneInTheTitle()
 {
     Window window;
-    QCOMPARE(window.windowTitle(), QString("Untitled[*] - Overlay Viewer"));
+    QCOMPARE(window.windowTitle(), QString("Untitled[*] — Overlay Viewer"));
     window.setScenePath("/some/where/night.json");
-    QCOMPARE(window.windowTitle(), QString("night.json[*] - Overlay Viewer"));
+    QCOMPARE(window.windowTitle(), QString("night.json[*] — Overlay Viewer"));
     window.setScenePath(QString());
-    QCOMPARE(window.windowTitle(), QString("Untitled[*] - Overlay Viewer"));
+    QCOMPARE(window.windowTitle(), QString("Untitled[*] — Overlay Viewer"));
 }
 
 static bool drop(QWidget *window, const QList<QUrl> &urls)
@@ -409,26 +407,6 @@ void tst_MainWindow::shouldSayThatThereIsNo3DView()
     refusing.viewArea()->resetView();
 }
 
-void tst_MainWindow::shouldShowNoticesUntilTheyAreDismissed()
-{
-    Window window;
-    window.setVisible(true);
-    QVERIFY(!window.viewArea()->notices()->isVisible());
-    window.notify(Severity::Warning, "first\nwith a second line");
-    window.notify(Severity::Error, "second");
-    window.notify(Severity::Error, "second");
-    QCOMPARE(window.notices(), QStringList({"second", "first\nwith a second line"}));
-    QVERIFY(window.viewArea()->notices()->isVisible());
-    QCOMPARE(window.statusBar()->currentMessage(), QString("second"));
-
-    const auto newest = window.viewArea()->notices()->findChildren<Notice *>().constLast();
-    QTest::mouseClick(newest->findChild<QToolButton *>("dismiss"), Qt::LeftButton);
-    QCOMPARE(window.notices(), QStringList("first\nwith a second line"));
-    window.viewArea()->notices()->clear();
-    QCOMPARE(window.notices(), QStringList());
-    QVERIFY(!window.viewArea()->notices()->isVisible());
-}
-
 void tst_MainWindow::shouldShowAllLinesOfANotice()
 {
     Window window;
@@ -442,14 +420,6 @@ void tst_MainWindow::shouldShowAllLinesOfANotice()
     // In a narrow window the same words need more lines.
     window.resize(500, 600);
     QTRY_VERIFY(label->height() >= label->heightForWidth(label->width()));
-}
-
-void tst_MainWindow::shouldKeepTheNewestNotices()
-{
-    Window window;
-    for (int i = 1; i <= 6; ++i)
-        window.notify(Severity::Info, QString::number(i));
-    QCOMPARE(window.notices(), QStringList({"6", "5", "4", "3"}));
 }
 
 void tst_MainWindow::shouldHaveRoomForTheSignsOfANotice()

@@ -1,171 +1,42 @@
 // SPDX-FileCopyrightText: the Overlay Editor authors
 // SPDX-License-Identifier: MIT
 
-#include "viewer/app/ViewEditing.h"
-
-#include "tests/support/KxTest.h"
+#include "tests/viewer/app/ViewEditingTest.h"
 #include "viewer/app/HelpId.h"
 #include "viewer/app/OverlayLayer.h"
 #include "viewer/app/UserGuide.h"
-#include "viewer/app/ViewArea.h"
 
 #include <QFile>
 #include <QPainter>
 #include <QSignalSpy>
-#include <QStandardItemModel>
-#include <QTreeView>
 
 using namespace viewer;
 using QRPC::NodeId;
 using QRPC::NodeList;
 
-/// A view area over a painted backdrop, beside a tree as a module makes it. The overlays are texts
-/// without a background, each in a line of its own from the top left on. The program runs once for
-/// each of several densities of the display.
-class tst_ViewEditing : public KxTest
+/// What the mouse selects, moves and shows, and what is drawn of the selection.
+class tst_ViewEditing : public ViewEditingTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() override;
-    void cleanup() override;
     void shouldSelectInTheTree();
     void shouldOutlineWhatIsSelectedInTheTree();
     void shouldWorkWithoutATree();
     void shouldFindATreeThatIsFilledLater();
+    void shouldGoOnFromWhatIsNew();
     void shouldSelectAThousandInOneChange();
     void shouldNotLayOutForOutlines();
     void shouldForgetWhatLosesItsRow();
     void shouldStayOutOfPictures();
     void shouldDragToTheMouse();
-    void shouldPutADragBackWhenTheKeyboardGoes();
     void shouldPutADragBackWhenTheViewGoes();
     void shouldGiveADragUpWithItsScene();
     void shouldKeepADragOutOfTheNextScene();
-    void shouldNudgeWithTheKeysOfTheView();
-    void shouldClaimKeysFromShortcuts();
     void shouldShowWhatTheMouseWillDo();
-    void shouldFollowTheModifierKeys();
     void shouldLetTheViewHaveItsEvents();
     void shouldBeToldOfInTheGuide();
-
-private:
-    struct Window : QWidget
-    {
-        Window();
-
-        ViewArea *area;
-        QStandardItemModel *model;
-        QTreeView *tree;
-    };
-
-    NodeId addText(const QString &text, const QPointF &offset);
-    void fillTree();
-    QPoint middleOf(NodeId node) const;
-    QWidget *view() const { return m_window->area->background(); }
-    QImage picture() const;
-    NodeList selected() const;
-    void move(const QPoint &to, Qt::KeyboardModifiers modifiers = {},
-              Qt::MouseButtons buttons = Qt::LeftButton);
-    Qt::CursorShape shapeAt(const QPoint &place, Qt::KeyboardModifiers modifiers = {});
-
-    std::unique_ptr<OverlayService> m_service;
-    ImageCache m_images;
-    std::unique_ptr<OverlayPainter> m_painter;
-    std::unique_ptr<Window> m_window;
-    NodeId m_first = 0;
-    NodeId m_second = 0;
 };
-
-tst_ViewEditing::Window::Window()
-    : area(new ViewArea(ViewArea::Background::Painted, this))
-    , model(new QStandardItemModel(this))
-    , tree(new QTreeView(this))
-{
-    tree->setModel(model);
-    tree->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    resize(600, 300);
-    area->setGeometry(0, 0, 400, 300);
-    tree->setGeometry(400, 0, 200, 300);
-}
-
-void tst_ViewEditing::init()
-{
-    KxTest::init();
-    m_service = std::make_unique<OverlayService>();
-    m_painter = std::make_unique<OverlayPainter>(m_service->scene(), m_images);
-    m_window = std::make_unique<Window>();
-    m_window->area->addLayer(
-        new OverlayLayer(m_service.get(), [this](QPainter *painter, const QSize &size, double dpi) {
-            m_painter->paint(*painter, size, dpi);
-        }));
-    new ViewEditing(m_service.get(), m_painter.get(), m_window->area);
-    m_first = addText("First", {20, -20});
-    m_second = addText("Second", {20, -70});
-    fillTree();
-    m_service->history().clear();
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-    QCoreApplication::processEvents();
-}
-
-void tst_ViewEditing::cleanup()
-{
-    m_window.reset();
-    m_painter.reset();
-    m_service.reset();
-    KxTest::cleanup();
-}
-
-NodeId tst_ViewEditing::addText(const QString &text, const QPointF &offset)
-{
-    const NodeId node = m_service->createOverlay(Scene::RootId);
-    m_service->setText({node}, text);
-    m_service->setBackgroundTransparency({node}, Qt::white);
-    m_service->setPosition({node}, {0, 1});
-    m_service->setOffset({node}, offset);
-    return node;
-}
-
-void tst_ViewEditing::fillTree()
-{
-    m_window->model->clear();
-    for (const NodeId node : m_service->scene().root().children) {
-        auto *item = new QStandardItem(m_service->getName(node));
-        item->setData(node, Qt::UserRole + 1);
-        m_window->model->appendRow(item);
-    }
-}
-
-QPoint tst_ViewEditing::middleOf(NodeId node) const
-{
-    const ViewGeometry geometry = OverlayLayer::geometryOf(*view());
-    const QPointF middle = m_painter->boxOf(node, geometry.size, geometry.dpi).center();
-    return (middle / view()->devicePixelRatioF()).toPoint();
-}
-
-QImage tst_ViewEditing::picture() const
-{
-    return m_window->area->grab().toImage();
-}
-
-NodeList tst_ViewEditing::selected() const
-{
-    return NodeView(m_window->tree).selectedNodes();
-}
-
-void tst_ViewEditing::move(const QPoint &to, Qt::KeyboardModifiers modifiers,
-                           Qt::MouseButtons buttons)
-{
-    QMouseEvent event(QEvent::MouseMove, QPointF(to), Qt::NoButton, buttons, modifiers);
-    QApplication::sendEvent(view(), &event);
-}
-
-Qt::CursorShape tst_ViewEditing::shapeAt(const QPoint &place, Qt::KeyboardModifiers modifiers)
-{
-    move(place, modifiers, Qt::NoButton);
-    return view()->cursor().shape();
-}
 
 void tst_ViewEditing::shouldSelectInTheTree()
 {
@@ -223,6 +94,25 @@ void tst_ViewEditing::shouldFindATreeThatIsFilledLater()
     QCoreApplication::processEvents();
     QTest::mouseClick(view(), Qt::LeftButton, {}, middleOf(third));
     QCOMPARE(selected(), NodeList{third});
+}
+
+/// A module selects what was created, and the keys of its tree would go on from elsewhere.
+void tst_ViewEditing::shouldGoOnFromWhatIsNew()
+{
+    m_window->tree->setCurrentIndex(m_window->model->index(0, 0));
+    addText("Third", {20, -120});
+    fillTree();
+    m_window->tree->setCurrentIndex(m_window->model->index(0, 0));
+    QItemSelectionModel *selection = m_window->tree->selectionModel();
+    selection->select(m_window->model->index(2, 0), QItemSelectionModel::ClearAndSelect);
+    QCoreApplication::processEvents();
+    QCOMPARE(m_window->tree->currentIndex().row(), 2);
+    QCOMPARE(selected().size(), 1);
+    // One that is selected stays.
+    m_window->tree->selectAll();
+    m_service->createOverlay(Scene::RootId);
+    QCoreApplication::processEvents();
+    QCOMPARE(m_window->tree->currentIndex().row(), 2);
 }
 
 void tst_ViewEditing::shouldSelectAThousandInOneChange()
@@ -310,17 +200,6 @@ void tst_ViewEditing::shouldDragToTheMouse()
     QCOMPARE(m_service->history().stack()->count(), 1);
 }
 
-void tst_ViewEditing::shouldPutADragBackWhenTheKeyboardGoes()
-{
-    QTest::mousePress(view(), Qt::LeftButton, {}, middleOf(m_first));
-    move({200, 200});
-    QVERIFY(m_service->getOffset(m_first) != QPointF(20, -20));
-    m_window->tree->setFocus();
-    QCOMPARE(m_service->getOffset(m_first), QPointF(20, -20));
-    QTest::mouseRelease(view(), Qt::LeftButton, {}, {200, 200});
-    QCOMPARE(m_service->history().stack()->count(), 0);
-}
-
 /// In a window that has been given the mouse, but not the keyboard.
 void tst_ViewEditing::shouldPutADragBackWhenTheViewGoes()
 {
@@ -357,37 +236,6 @@ void tst_ViewEditing::shouldKeepADragOutOfTheNextScene()
     QTest::mouseRelease(view(), Qt::LeftButton, {}, {200, 200});
 }
 
-void tst_ViewEditing::shouldNudgeWithTheKeysOfTheView()
-{
-    QTest::mouseClick(view(), Qt::LeftButton, {}, middleOf(m_first));
-    QVERIFY(view()->hasFocus());
-    const QImage before = picture();
-    QTest::keyClick(view(), Qt::Key_Left);
-    QTest::keyClick(view(), Qt::Key_Up, Qt::ShiftModifier);
-    QCOMPARE(m_service->getOffset(m_first), QPointF(19, -10));
-    QVERIFY(picture() != before);
-    QCOMPARE(m_service->history().stack()->count(), 1);
-    QTest::keyClick(view(), Qt::Key_Escape);
-    QCOMPARE(selected(), NodeList());
-}
-
-void tst_ViewEditing::shouldClaimKeysFromShortcuts()
-{
-    const auto isClaimed = [this](int key) {
-        QKeyEvent event(QEvent::ShortcutOverride, key, Qt::NoModifier);
-        event.ignore();
-        QApplication::sendEvent(view(), &event);
-        return event.isAccepted();
-    };
-    QVERIFY(!isClaimed(Qt::Key_Left));
-    QTest::mousePress(view(), Qt::LeftButton, {}, middleOf(m_first));
-    QVERIFY(isClaimed(Qt::Key_Z));
-    QTest::mouseRelease(view(), Qt::LeftButton, {}, middleOf(m_first));
-    QVERIFY(isClaimed(Qt::Key_Left));
-    QVERIFY(isClaimed(Qt::Key_Escape));
-    QVERIFY(!isClaimed(Qt::Key_Home));
-}
-
 void tst_ViewEditing::shouldShowWhatTheMouseWillDo()
 {
     const QPoint empty(300, 250);
@@ -400,20 +248,6 @@ void tst_ViewEditing::shouldShowWhatTheMouseWillDo()
     QCOMPARE(shapeAt(middleOf(m_first)), Qt::SizeAllCursor);
     QCOMPARE(shapeAt(middleOf(m_second)), Qt::PointingHandCursor);
     QCOMPARE(shapeAt(empty), Qt::ArrowCursor);
-}
-
-void tst_ViewEditing::shouldFollowTheModifierKeys()
-{
-    move({300, 250}, {}, Qt::NoButton);
-    view()->setFocus();
-    QTest::keyPress(view(), Qt::Key_Shift);
-    QCOMPARE(view()->cursor().shape(), Qt::CrossCursor);
-    QTest::keyRelease(view(), Qt::Key_Shift, Qt::ShiftModifier);
-    QCOMPARE(view()->cursor().shape(), Qt::ArrowCursor);
-    QEvent leave(QEvent::Leave);
-    QApplication::sendEvent(view(), &leave);
-    QTest::keyPress(view(), Qt::Key_Shift);
-    QCOMPARE(view()->cursor().shape(), Qt::ArrowCursor);
 }
 
 /// What is not for an overlay is for the background, as if nobody looked on.

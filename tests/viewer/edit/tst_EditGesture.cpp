@@ -28,6 +28,7 @@ private Q_SLOTS:
     void shouldLeaveOtherButtonsToTheView();
     void shouldPickOneOfSeveralWhenTheyAreNotDragged();
     void shouldNotSelectWhatIsSelected();
+    void shouldPickForAMenu();
 
     void shouldPickAllInTheBand_data() { addRatios(); }
     void shouldPickAllInTheBand();
@@ -203,6 +204,24 @@ void tst_EditGesture::shouldNotSelectWhatIsSelected()
     click({30, 25});
     click({250, 170});
     QCOMPARE(selections(), 2);
+}
+
+void tst_EditGesture::shouldPickForAMenu()
+{
+    QVERIFY(gesture().pickForMenu({60, 40}));
+    QCOMPARE(selected(), QString("b"));
+    // What is selected there stays so, with all that is selected elsewhere.
+    select({id("a"), id("g")});
+    QVERIFY(gesture().pickForMenu({60, 40}));
+    QCOMPARE(selected(), QString("a g"));
+    QVERIFY(gesture().pickForMenu({250, 170}));
+    QVERIFY(gesture().pickForMenu({380, 20}));
+    QCOMPARE(selected(), QString("a g"));
+    QVERIFY(gesture().pickForMenu({310, 250}));
+    QCOMPARE(selected(), QString("d"));
+    press({60, 40}, Qt::ShiftModifier);
+    QVERIFY(!gesture().pickForMenu({250, 170}));
+    QCOMPARE(selected(), QString("d"));
 }
 
 void tst_EditGesture::shouldPickAllInTheBand()
