@@ -207,7 +207,7 @@ void FeedbackPainter::tie(const EditFeedback::Tie &tie)
     dots.setDashPattern({DashLength / 2, DashLength / 2});
     m_painter->setPen(dots);
     m_painter->drawLine(tie.anchor, tie.reference);
-    m_painter->setPen(QPen(color(Seam), thin));
+    m_painter->setPen(QPen(color(Seam), 1.5 * thin));
     m_painter->setBrush(color(Selected));
     const double radius = m_view.pixels(MarkRadius);
     m_painter->drawEllipse(tie.anchor, radius, radius);

@@ -30,7 +30,13 @@ NodeList OverlayService::change(Operation operation, Property property, const No
         setValue(&m_scene, id, property, value);
         changed.append(id);
     }
-    record(operation, changed, std::move(noted));
+    if (!noted.isEmpty()) {
+        Step step = stepOf(operation, changed);
+        step.nodes =
+            known; // a gesture goes on with all of them, also where it meets a value of some
+        step.changes.push_back(std::move(noted));
+        m_history.record(std::move(step));
+    }
     return inTreeOrder(m_scene, changed);
 }
 

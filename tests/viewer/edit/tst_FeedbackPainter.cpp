@@ -101,6 +101,13 @@ EditFeedback guided(double at)
     return feedback;
 }
 
+EditFeedback tied(const QPointF &anchor, const QPointF &reference)
+{
+    EditFeedback feedback;
+    feedback.tie = {anchor, reference};
+    return feedback;
+}
+
 } // namespace
 
 QImage tst_FeedbackPainter::drawn(const EditFeedback &feedback, double ratio, const QColor &ground)
@@ -150,7 +157,7 @@ void tst_FeedbackPainter::shouldBeSeenOnEveryGround()
 {
     QFETCH(QColor, ground);
     const EditFeedback feedbacks[] = {outlined({40, 50, 90, 60}), grouped({40, 50, 90, 60}),
-                                      guided(80)};
+                                      guided(80), tied({80, 60}, {80, 60})};
     for (const EditFeedback &feedback : feedbacks) {
         double best = 0;
         for (const QRgb line : colorsOf(drawn(feedback, 1, ground)))

@@ -5,6 +5,7 @@
 
 #include "tests/support/KxTest.h"
 
+#include <QAbstractEventDispatcher>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void shouldTellOfAFileWhoseFoldersAreMadeLater();
     void shouldTellOfAFolderThatGoesAndComesBack();
     void shouldTellOfABurstOnce();
+    void shouldRestAfterABurst();
     void shouldTellOfALongBurstBeforeItsEnd();
     void shouldTellWhatChangedSinceTheFileWasSeen();
     void shouldBeSilentWhereNothingChanged();
@@ -202,6 +204,19 @@ void tst_FileWatch::shouldTellOfABurstOnce()
     QCOMPARE(told(), QStringList("a.png"));
 }
 
+void tst_FileWatch::shouldRestAfterABurst()
+{
+    write("a.png", "one");
+    watch("a.png");
+    write("a.png", "another");
+    QCOMPARE(told(), QStringList("a.png"));
+    const QSignalSpy wakes(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake);
+    QEventLoop loop;
+    QTimer::singleShot(20 * noticesAlone().pause, &loop, &QEventLoop::quit);
+    loop.exec();
+    QVERIFY2(wakes.size() < 10, qPrintable(QString::number(wakes.size())));
+}
+
 void tst_FileWatch::shouldTellOfALongBurstBeforeItsEnd()
 {
     Limits limits = noticesAlone();
@@ -229,16 +244,20 @@ void tst_FileWatch::shouldTellWhatChangedSinceTheFileWasSeen()
 
 void tst_FileWatch::shouldBeSilentWhereNothingChanged()
 {
+    const QSignalSpy limits(m_watch.get(), &FileWatch::limitReached);
     write("a.png", "one");
     write("b.png", "one");
     watch("a.png");
     watch("b.png");
+    m_watch->add(path("a.png"));
+    m_watch->add(":/built/in.png");
     write("unknown.png", "two");
     write("b.png", "two");
     QCOMPARE(told(), QStringList("b.png"));
     QVERIFY(QFile::remove(path("unknown.png")));
     QVERIFY(QFile::remove(path("b.png")));
     QCOMPARE(told(), QStringList("b.png"));
+    QCOMPARE(limits.size(), 0); // what is watched already is not asked for again
 }
 
 void tst_FileWatch::shouldBeSilentAboutFilesThatWereRemovedOrCleared_data()

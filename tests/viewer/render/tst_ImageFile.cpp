@@ -23,6 +23,7 @@ private Q_SLOTS:
     void shouldReadAPictureSmallerThatTakesTooMuch_data();
     void shouldReadAPictureSmallerThatTakesTooMuch();
     void shouldReadDrawingsLarge();
+    void shouldTurnAPhotographUpright();
     void shouldRefuseAFileThatEndsTooEarly_data();
     void shouldRefuseAFileThatEndsTooEarly();
     void shouldReadWhatFollowsThePictureAsNothing_data();
@@ -144,6 +145,28 @@ void tst_ImageFile::shouldReadAPictureSmallerThatTakesTooMuch()
     const QString path = write(name, content);
     QCOMPARE(readImageFile(path, 4LL * 200 * 100).size(), QSize(200, 100));
     QCOMPARE(readImageFile(path, 1).size(), QSize(1, 1));
+}
+
+/// Cameras store the pixels as the sensor lies, and how it was held in a note.
+void tst_ImageFile::shouldTurnAPhotographUpright()
+{
+    const QByteArray rightSideUp = QByteArray::fromHex("ffe10022"
+                                                       "457869660000"
+                                                       "4d4d002a00000008"
+                                                       "0001"
+                                                       "011200030000000100060000"
+                                                       "00000000");
+    QImage image(64, 32, QImage::Format_RGB32);
+    image.fill(Qt::blue);
+    QPainter(&image).fillRect(0, 0, 32, 32, Qt::red);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QVERIFY(image.save(&buffer, "jpg"));
+    const QImage shown = readImageFile(write("photo.jpg", bytes.insert(2, rightSideUp)), Plenty);
+    QCOMPARE(shown.size(), QSize(32, 64));
+    QVERIFY(shown.pixelColor(16, 8).red() > 200);
+    QVERIFY(shown.pixelColor(16, 56).blue() > 200);
 }
 
 void tst_ImageFile::shouldReadDrawingsLarge()

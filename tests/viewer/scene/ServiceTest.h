@@ -6,7 +6,13 @@
 #include "tests/support/KxTest.h"
 #include "tests/viewer/scene/SceneText.h"
 
+#include <functional>
 #include <optional>
+
+/// What the row of a table does to a service; the second argument gives the nodes of some names.
+using Operate = std::function<void(viewer::OverlayService &,
+                                   const std::function<QRPC::NodeList(const char *)> &)>;
+Q_DECLARE_METATYPE(Operate)
 
 /// Base of the tests of the service: a fresh service for each test function, opened on a scene that
 /// is written as text, with every signal recorded.

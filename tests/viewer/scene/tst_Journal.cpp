@@ -37,6 +37,7 @@ private Q_SLOTS:
     void shouldNotBePutOffByFurtherSteps();
     void shouldNotWaitForASlowDisk();
     void shouldHaveOneTextOnItsWayAtATime();
+    void shouldRestWhenNothingChanges();
     void shouldGoWhenTheSceneIsSaved();
     void shouldGoWhenTheSceneIsLetGo();
     void shouldNotComeBackOnceItHasGone();
@@ -181,6 +182,15 @@ void tst_Journal::shouldHaveOneTextOnItsWayAtATime()
     disk.release();
     m_writer.waitForDone();
     QCOMPARE(written.result(), first);
+}
+
+void tst_Journal::shouldRestWhenNothingChanges()
+{
+    edit();
+    QTRY_COMPARE(journals().size(), 1);
+    QVERIFY(QFile::remove(folder() + '/' + journals().constFirst()));
+    QVERIFY(goOnWorking());
+    QCOMPARE(journals().size(), 0); // else it would have come back
 }
 
 void tst_Journal::shouldGoWhenTheSceneIsSaved()
