@@ -837,7 +837,7 @@ Ein Lauf ohne Fenster gibt zurück:
     </message>
     <message>
         <source>&amp;History</source>
-        <translation>&amp;Verlauf</translation>
+        <translation>Ver&amp;lauf</translation>
     </message>
 </context>
 <context>
