@@ -25,6 +25,7 @@ class tst_RecordedService : public KxTest
 private Q_SLOTS:
     void init() override;
     void cleanup() override;
+    void shouldDoWhatAPlainServiceDoes();
     void shouldWriteWhatChangesSomething();
     void shouldWriteWhatMakesOneStep();
     void shouldWriteHowStepsAreTakenBack();
@@ -158,6 +159,23 @@ QByteArray tst_RecordedService::replayed(const QByteArray &before)
     ScriptRun run(&service, [](const std::function<void()> &work) { work(); }, {});
     const ScriptOutcome outcome = run.run(path());
     return outcome.text.isEmpty() ? scenetext::fileOf(service) : outcome.text.toUtf8();
+}
+
+void tst_RecordedService::shouldDoWhatAPlainServiceDoes()
+{
+    OverlayService plain;
+    plain.setScene(scenetext::build("a g(b)"));
+    RandomEdits edits(m_service.get(), 1);
+    RandomEdits sameEdits(&plain, 1);
+    for (int i = 0; i < 500; ++i) {
+        edits.edit();
+        sameEdits.edit();
+        const NodeId node = plain.getChild(Scene::RootId, 0);
+        const QVector<NodeOffset> offsets{{node, QPointF(i, -1)}};
+        m_service->setOffsets(offsets);
+        plain.setOffsets(offsets);
+        QCOMPARE(scenetext::fileOf(*m_service), scenetext::fileOf(plain));
+    }
 }
 
 void tst_RecordedService::shouldWriteWhatChangesSomething()
