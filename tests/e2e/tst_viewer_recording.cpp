@@ -4,6 +4,7 @@
 #include "tests/e2e/ViewerTest.h"
 #include "tests/support/RealInput.h"
 
+#include <QClipboard>
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -71,6 +72,14 @@ void tst_viewer_recording::work()
     realInput::key("Delete");
     QTRY_COMPARE(overlays->getChildCount(1), 3);
     realInput::key("ctrl+z");
+    QTRY_COMPARE(overlays->getChildCount(1), 4);
+    focusRow(1);
+    realInput::key("ctrl+c");
+    QTRY_VERIFY(QApplication::clipboard()->text().contains("Title"));
+    realInput::key("ctrl+v");
+    QTRY_COMPARE(overlays->getChildCount(1), 5);
+    focusRow(3);
+    realInput::key("ctrl+x");
     QTRY_COMPARE(overlays->getChildCount(1), 4);
     session()->runScript(path("own.js"));
     realInput::key("ctrl+z");

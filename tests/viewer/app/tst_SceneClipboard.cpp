@@ -30,6 +30,8 @@ private Q_SLOTS:
     void shouldPasteWhereTheUserLooks_data();
     void shouldPasteWhereTheUserLooks();
     void shouldPasteTextFromAnEditor();
+    void shouldKeepWhatItDoesNotKnowOfNodes();
+    void shouldWarnOfWhatASwitchCannotShow();
     void shouldCutInOneStep();
     void shouldRefuseWhatIsNoScene_data();
     void shouldRefuseWhatIsNoScene();
@@ -174,6 +176,36 @@ void tst_SceneClipboard::shouldPasteTextFromAnEditor()
     QVERIFY(!QApplication::clipboard()->mimeData()->hasFormat("application/x-overlay-scene"));
     clipboard.paste({});
     QCOMPARE(dump(), QString("a g(b c) s{d e-} h() z"));
+}
+
+void tst_SceneClipboard::shouldKeepWhatItDoesNotKnowOfNodes()
+{
+    setText(
+        R"({"format": "overlay-scene", "version": 1, "ofTheFile": 1, "overlays": [{"kind": "group",)"
+        R"( "name": "x", "ofANode": 2, "children": [{"kind": "overlay", "ofAnother": 3}]}]})");
+    SceneClipboard(&service()).paste({});
+    const QByteArray file = scenetext::fileOf(service());
+    QVERIFY(!file.contains("ofTheFile"));
+    QVERIFY(file.contains("\"ofANode\": 2"));
+    QVERIFY(file.contains("\"ofAnother\": 3"));
+    SceneClipboard clipboard(&service());
+    QVERIFY(clipboard.copy(ids("x")));
+    QVERIFY(text().contains("ofAnother"));
+}
+
+void tst_SceneClipboard::shouldWarnOfWhatASwitchCannotShow()
+{
+    setText(
+        R"({"format": "overlay-scene", "version": 1, "overlays": [{"kind": "switch", "name": "x",)"
+        R"( "children": [{"kind": "overlay", "name": "y"}, {"kind": "overlay", "name": "z"}]}]})");
+    SceneClipboard clipboard(&service());
+    QSignalSpy reports(&clipboard, &SceneClipboard::reported);
+    clipboard.paste({});
+    QCOMPARE(dump(), QString("a g(b c) s{d e-} h() x{y z-}"));
+    QCOMPARE(reports.size(), 1);
+    QCOMPARE(reports.first().at(0).value<Severity>(), Severity::Warning);
+    QVERIFY(
+        reports.first().at(1).toString().startsWith("Clipboard: /overlays/0/children/1: \"z\""));
 }
 
 void tst_SceneClipboard::shouldCutInOneStep()
