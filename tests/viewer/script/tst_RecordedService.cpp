@@ -180,6 +180,7 @@ void tst_RecordedService::shouldDoWhatAPlainServiceDoes()
 
 void tst_RecordedService::shouldWriteWhatChangesSomething()
 {
+    const QSignalSpy failed(m_service.get(), &RecordedService::recordingFailed);
     m_service->setScenePath("/scenes/titles.json");
     m_service->setName(ids("a"), "a");
     QVERIFY(!QFile::exists(path()));
@@ -194,6 +195,7 @@ void tst_RecordedService::shouldWriteWhatChangesSomething()
                                  "overlays.setFontColor([2], \"#661a334d\");\n"
                                  "overlays.setImage([2], \"/x.png\");\n"
                                  "overlays.moveNodes([2], 3, -1);\n"));
+    QCOMPARE(failed.size(), 0);
 }
 
 void tst_RecordedService::shouldWriteWhatMakesOneStep()
@@ -237,10 +239,17 @@ void tst_RecordedService::shouldWriteHowStepsAreTakenBack()
 
 void tst_RecordedService::shouldWriteWhatSlotsAnswerBehind()
 {
-    connect(m_service.get(), &kxOverlayService::nodesAdded, this,
-            [this](const NodeList &nodes) { m_service->setName(nodes, "new"); });
+    const auto naming =
+        connect(m_service.get(), &kxOverlayService::nodesAdded, this,
+                [this](const NodeList &nodes) { m_service->setName(nodes, "new"); });
     m_service->createOverlay(1);
     QVERIFY(recorded().endsWith("overlays.createOverlay(1);\noverlays.setName([5], \"new\");\n"));
+    disconnect(naming);
+    const auto grouping = connect(m_service.get(), &kxOverlayService::nameChanged, this,
+                                  [this](const NodeList &nodes) { m_service->groupNodes(nodes); });
+    m_service->setName(ids("a"), "z");
+    disconnect(grouping);
+    QCOMPARE(recorded().count("groupNodes([2])"), 1);
 }
 
 void tst_RecordedService::shouldBeginAScriptWithEachScene()

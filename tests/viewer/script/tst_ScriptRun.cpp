@@ -102,6 +102,10 @@ void tst_ScriptRun::shouldCallOperations_data()
     row("overlays.setImage([a], '/x.png'); overlays.getImage(a)", "/x.png");
     row("[overlays.getOverlayType(a), overlays.getSizeType(a)]", "text,absolute");
     row("overlays.setOverlayType([a], 'image'); overlays.getOverlayType(a)", "image");
+    row("overlays.setOverlayType([a], 1); overlays.setOverlayType([a], 'text'); "
+        "overlays.getOverlayType(a)",
+        "text");
+    row("overlays.getParent(root) === 0 && overlays.getName(0)", "");
     row("overlays.setOverlayType([a], 7); overlays.getOverlayType(a)", "7");
     row("overlays.setSizeType([a], 'relative'); overlays.getSizeType(a)", "relative");
     row("overlays.setSize([a], 0.1); overlays.getSize(a)", "0.1");
@@ -381,6 +385,9 @@ void tst_ScriptRun::shouldRefuseWhatIsNoScript()
     QCOMPARE(outcome.end, End::Failed);
     QVERIFY2(outcome.text.contains("none.js"), qPrintable(outcome.text));
     QVERIFY(!service().history().stack()->canUndo());
+    write("largest.js", QByteArray(int(ScriptSource::LargestFile), ' '));
+    ScriptRun largest(&service(), atOnce, {});
+    QCOMPARE(largest.run(path("largest.js")).end, End::Done);
     ScriptRun device(&service(), atOnce, {});
     QCOMPARE(device.run("/dev/zero").end, End::Failed);
 }
