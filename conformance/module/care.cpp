@@ -264,6 +264,18 @@ ModuleChecks costChecks()
              bench.select({});
              expectFewRefreshes(bench, [&bench] { bench.call("selectAll"); });
          }},
+        {"cost.switch", "The children of a switch are read once or twice, however many change.",
+         [](ModuleBench &bench) {
+             const Nodes nodes = openMany(bench);
+             bench.service().insert(1, -1, QStringLiteral("s%1*()").arg(many + 3));
+             for (const QRPC::NodeId node : nodes)
+                 bench.service().place(node, many + 3, -1);
+             Q_EMIT bench.service().modelReset();
+             bench.log().clear();
+             Q_EMIT bench.service().enabledStateChanged(nodes);
+             const int count = bench.log().count("isEnabled");
+             expectEqual("states read, at most three for a node", qMax(count, 3 * many), 3 * many);
+         }},
         {"cost.order", "The panel reads the values of a selection in this order.",
          [](ModuleBench &bench) {
              bench.open("a2");

@@ -318,9 +318,11 @@ ModuleChecks otherChecks() // NOLINT(readability-function-size)
              bench.openShown("a2 k3(b4) g5()");
              bench.select({4, 2});
              bench.tree().setRowHidden(1, QModelIndex(), true);
+             const QPersistentModelIndex hidden(bench.index(4));
              const QStringList calls = bench.commandsOf([&] { drag(bench, 2, 5, Edge::On); });
              expectEqual("calls", calls, QStringList("moveNodes [2] 5 -1"));
              bench.expectSettled();
+             expect("the row is the same", QModelIndex(hidden) == bench.index(4));
              bench.tree().setRowHidden(0, QModelIndex(), false);
          }},
         {"mouse.hiddenChildren", "A dragged group brings what a search hides in it.",

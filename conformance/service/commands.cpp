@@ -3,6 +3,8 @@
 
 #include "conformance/service/hostChecks.h"
 
+#include <QHash>
+
 namespace conformance {
 
 namespace {
@@ -187,6 +189,22 @@ HostChecks groupingChecks()
                   for (int row = 0; row < bench.service().getChildCount(s); ++row)
                       shown += int(bench.service().isEnabled(bench.service().getChild(s, row)));
                   expect("at most one is shown", shown <= 1);
+              }},
+             {"group.statesInSwitch", "What grouping in a switch does to states is announced.",
+              [](HostBench &bench) {
+                  bench.build("s*(a b- c-)");
+                  kxOverlayService &s = bench.service();
+                  QHash<QRPC::NodeId, bool> told;
+                  const QObject listener;
+                  const auto note = [&s, states = &told](const QRPC::NodeList &nodes) {
+                      for (const QRPC::NodeId node : nodes)
+                          states->insert(node, s.isEnabled(node));
+                  };
+                  QObject::connect(&s, &kxOverlayService::nodesAdded, &listener, note);
+                  QObject::connect(&s, &kxOverlayService::enabledStateChanged, &listener, note);
+                  s.groupNodes(bench.ids("a b"));
+                  for (auto node = told.cbegin(); node != told.cend(); ++node)
+                      expectEqual("state", s.isEnabled(node.key()), node.value());
               }}}});
 }
 

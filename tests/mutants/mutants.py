@@ -13,8 +13,9 @@ plug-in is a broken module, a broken kit (or viewer/scene) a broken host.
 Works on a copy of the tracked files below ROOT/build, so that the tree is never touched; runs side by
 side need copies of their own (--copy NAME). Each mutant is compiled into the shared form of its library,
 so that no test is linked anew. A mutant that does not compile does not count: another one is drawn. One
-that no test can notice stands in equivalent.txt with the reason and is not drawn. A test that fails has
-to fail again, so that no mishap of a test counts. Ends with 1 where fewer than 95 of 100 were caught.
+that no test can notice stands in equivalent.txt with the reason and is not drawn, nor with --conformance
+one of unchecked.txt. A test that fails has to fail again, so that no mishap of a test counts. Ends with 1
+where fewer than 95 of 100 were caught.
 """
 
 import argparse
@@ -178,10 +179,12 @@ def candidates(copy, names):
     return [(name, mutant) for name in names for mutant in mutations.of((copy / name).read_text())]
 
 
-def equivalents():
-    """Changes that no test could see, as pairs of file and pattern; three dots stand for any text."""
+def equivalents(checked=False):
+    """Changes that no test could see, or that the conformance program does not look for, as pairs of file
+    and pattern; three dots stand for any text."""
     known = []
-    for line in (HERE / "equivalent.txt").read_text().splitlines():
+    lists = ["equivalent.txt", "unchecked.txt"] if checked else ["equivalent.txt"]
+    for line in "\n".join((HERE / name).read_text() for name in lists).splitlines():
         if line and not line.startswith("#"):
             name, change, _reason = line.split(" | ")
             known.append((name, re.compile(".*".join(map(re.escape, change.split("..."))))))
@@ -231,7 +234,7 @@ def main():
     pool = candidates(workshop.copy, names)
     random.Random(options.seed).shuffle(pool)
     print(f"mutants: {options.count} of {len(pool)} in {options.folder}, seed {options.seed}", flush=True)
-    known = equivalents()
+    known = equivalents(options.conformance)
     caught, survivors = 0, []
     for name, mutant in pool:
         if caught + len(survivors) >= options.count:
