@@ -39,6 +39,9 @@ function(kx_add_test name)
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 300)
     endif()
+    if(KX_TEST_PATIENCE) # the tests run under something that slows them down so many times
+        math(EXPR ARG_TIMEOUT "${ARG_TIMEOUT} * ${KX_TEST_PATIENCE}")
+    endif()
     set_tests_properties(${name} PROPERTIES
         TIMEOUT ${ARG_TIMEOUT}
         ENVIRONMENT "QT_QPA_PLATFORM=${platform};${KX_TEST_ENVIRONMENT}")

@@ -268,7 +268,9 @@ ModuleChecks imageChecks() // NOLINT(readability-function-size)
          [](ModuleBench &bench) {
              const QTemporaryDir folder;
              const QString path = folder.filePath("chosen.png");
-             expect("there is a file", QImage(2, 2, QImage::Format_RGB32).save(path));
+             QImage picture(2, 2, QImage::Format_RGB32);
+             picture.fill(Qt::red);
+             expect("there is a file", picture.save(path));
              openImage(bench);
              QTimer::singleShot(0, &bench.window(), [path] {
                  auto *dialog =

@@ -238,7 +238,9 @@ void tst_kxOverlayEditor_edits::shouldSendTheImageThatWasChosen()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath("red.png");
-    QVERIFY(QImage(4, 4, QImage::Format_RGB32).save(path));
+    QImage red(4, 4, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    QVERIFY(red.save(path));
     openEditor("a2 b3");
     suit(property(7));
     node(2).image = path;

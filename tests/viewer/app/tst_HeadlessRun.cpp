@@ -190,7 +190,9 @@ void tst_HeadlessRun::shouldRunAScriptBetweenOpeningAndSaving()
 void tst_HeadlessRun::shouldTakeImagesFromTheFolderOfTheScene()
 {
     writeScene(R"({"kind": "overlay", "name": "Logo", "type": "image"})");
-    QVERIFY(QImage(4, 4, QImage::Format_RGB32).save(path("logo.png")));
+    QImage logo(4, 4, QImage::Format_RGB32);
+    logo.fill(Qt::red);
+    QVERIFY(logo.save(path("logo.png")));
     write("s.js", "overlays.setImage([2], 'logo.png')");
     QCOMPARE(run({path("a.json"), "--script", path("s.js"), "--save", path("b.json")}), 0);
     QVERIFY(contentOf("b.json").contains("\"image\": \"logo.png\""));

@@ -298,7 +298,9 @@ void tst_SceneClipboard::shouldOfferToPasteTextAlone()
     QVERIFY(!SceneClipboard::canPaste());
     setText("some words"); // whether they are a scene shows when they are pasted
     QVERIFY(SceneClipboard::canPaste());
-    QApplication::clipboard()->setImage(QImage(2, 2, QImage::Format_RGB32));
+    QImage picture(2, 2, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    QApplication::clipboard()->setImage(picture);
     QVERIFY(!SceneClipboard::canPaste());
     QVERIFY(SceneClipboard(&service()).copy(ids("a")));
     QVERIFY(SceneClipboard::canPaste());
