@@ -165,6 +165,18 @@ ModuleChecks effectChecks() // NOLINT(readability-function-size)
              expect("an editor is open", edit != nullptr);
              expectEqual("its text", edit->text(), QString("b3"));
          }},
+        {"command.renamesUnseen", "A name in a closed group is opened with the group.",
+         [](ModuleBench &bench) {
+             bench.openShown("g2(a3)");
+             bench.tree().collapse(bench.index(2));
+             bench.select({3});
+             bench.call("renameOverlay");
+             auto *edit = bench.tree().viewport()->findChild<QLineEdit *>();
+             expect("an editor is open", edit != nullptr);
+             expect("it is seen", edit->isVisible());
+             expect("it stands in its row",
+                    bench.tree().visualRect(bench.index(3)).contains(edit->geometry().center()));
+         }},
         {"command.renamesNothing", "Rename with nothing selected opens no editor.",
          [](ModuleBench &bench) {
              bench.open("a2 b3");

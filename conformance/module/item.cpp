@@ -52,6 +52,13 @@ ModuleChecks itemChecks() // NOLINT(readability-function-size)
              expectEqual("id", id, QVariant(7U));
              expectEqual("type", int(id.type()), int(QVariant::UInt));
          }},
+        {"item.withoutId", "A row whose id is taken away stands for no node.",
+         [](ModuleBench &bench) {
+             bench.open("a2 b3");
+             bench.item(2).setData(QVariant(), idRole);
+             Q_EMIT bench.service().nodesMoved({3}, {1}, {0});
+             expectEqual("first", bench.model().index(0, 0).data(idRole), QVariant(3U));
+         }},
         {"item.checkRole", "The check state is the number 2 for enabled and 0 for disabled.",
          [](ModuleBench &bench) {
              bench.open("a2 b3-");

@@ -187,6 +187,13 @@ ModuleChecks effectChecks() // NOLINT(readability-function-size)
              expectEqual("calls", calls, QStringList("duplicateNodes [2,4]"));
              expect("nobody else gets it", event.isAccepted());
          }},
+        {"key.othersMove", "A key of no command does in the tree what it does in every tree.",
+         [](ModuleBench &bench) {
+             bench.openShown("a2 b3");
+             bench.tree().setCurrentIndex(bench.index(2));
+             expect("the key is taken", bench.press(Qt::Key_Down));
+             expectEqual("selection", bench.selected(), Nodes({3}));
+         }},
         {"key.elsewhere", "Keys in other widgets of the panel are no commands.",
          [](ModuleBench &bench) {
              openForKeys(bench);

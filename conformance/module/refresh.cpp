@@ -279,6 +279,16 @@ ModuleChecks enablingChecks() // NOLINT(readability-function-size)
              expectEqual("text", bench.form<QPlainTextEdit>("_text_edit").toPlainText(),
                          QString("kept"));
          }},
+        {"refresh.mixedTypesKeepOn",
+         "What changes of mixed types is shown when they are one again.",
+         [](ModuleBench &bench) {
+             openTwo(bench);
+             bench.node(3).type = 1;
+             bench.select({2});
+             bench.select({2, 3});
+             bench.service().setFontColor({2}, Qt::green);
+             expect("the colour is not marked", !isMarked(bench, "_color_slider"));
+         }},
         {"refresh.mixedTypesShareSizes", "Mixed types still show size, position and offset.",
          [](ModuleBench &bench) {
              openTwo(bench);

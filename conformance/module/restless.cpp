@@ -67,6 +67,20 @@ ModuleChecks otherChecks()
              expect("it follows all resets", resets >= 500);
              bench.expectSettled();
          }},
+        {"restless.resetBeforeRename",
+         "A row that is made anew before its name is written shows it.",
+         [](ModuleBench &bench) {
+             bench.open("a2 b3");
+             bench.service().setCallHook([&bench](const QString &line) {
+                 if (!line.startsWith("setName"))
+                     return;
+                 bench.service().setCallHook({});
+                 Q_EMIT bench.service().modelReset();
+             });
+             bench.model().setData(bench.index(2), "new", Qt::EditRole);
+             expectEqual("name", bench.service().node(2).name, QString("new"));
+             bench.expectTree();
+         }},
         {"restless.twoInOneMoment", "All that is announced in one moment shows.",
          [](ModuleBench &bench) {
              bench.open("g2(a3 b4) c5");
