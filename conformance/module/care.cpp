@@ -79,10 +79,14 @@ ModuleChecks assistChecks()
          }},
         {"assist.focusOrder", "Tab goes from the search box to the tree and down the panel.",
          [](ModuleBench &bench) {
-             const QWidget &box = bench.searchBox();
-             int before = stepsTo(bench.tree(), box);
+             const QWidget &window = bench.window();
+             const int first = stepsTo(bench.searchBox(), window);
+             int before = stepsTo(bench.tree(), window);
+             expect("the tree", before > first);
+             expect("what holds the tree is no stop",
+                    bench.tree().parentWidget()->focusPolicy() == Qt::NoFocus);
              for (const char *name : s_focusOrder) {
-                 const int steps = stepsTo(bench.form<QWidget>(name), box);
+                 const int steps = stepsTo(bench.form<QWidget>(name), window);
                  expect(name, steps > before);
                  before = steps;
              }

@@ -171,6 +171,15 @@ ModuleChecks changeChecks() // NOLINT(readability-function-size)
              bench.call("invertSelection");
              expectEqual("selection", bench.selected(), Nodes({3, 5, 6}));
          }},
+        {"selection.invertOrder", "Neighbours that an inversion selects are named from the top.",
+         [](ModuleBench &bench) {
+             bench.open("a2 b3 c4 d5");
+             bench.service().setApplies(false);
+             bench.select({2, 4});
+             bench.call("invertSelection");
+             expectEqual("calls", bench.commandsOf([&] { bench.call("deleteOverlays"); }),
+                         QStringList("deleteNodes [3,5]"));
+         }},
         {"selection.invertEach", "Every selection of five rows is inverted to all the others.",
          [](ModuleBench &bench) {
              for (unsigned picked = 0; picked < 32; ++picked) {
