@@ -81,6 +81,21 @@ ModuleChecks otherChecks()
              expectEqual("name", bench.service().node(2).name, QString("new"));
              bench.expectTree();
          }},
+        {"restless.staysOpen", "What a change meanwhile does not touch stays open and selected.",
+         [](ModuleBench &bench) {
+             bench.open("g2(a3) c4");
+             bench.select({3});
+             bench.service().setCallHook([&bench](const QString &line) {
+                 if (!line.startsWith("getName"))
+                     return;
+                 bench.service().setCallHook({});
+                 bench.service().deleteNodes({4});
+             });
+             bench.service().setName({2}, "new");
+             bench.expectSettled();
+             expect("the group is open", bench.tree().isExpanded(bench.index(2)));
+             expectEqual("selection", bench.selected(), QRPC::NodeList({3}));
+         }},
         {"restless.twoInOneMoment", "All that is announced in one moment shows.",
          [](ModuleBench &bench) {
              bench.open("g2(a3 b4) c5");
