@@ -205,6 +205,15 @@ ModuleChecks effectChecks() // NOLINT(readability-function-size)
              });
              expectEqual("calls", calls, QStringList());
          }},
+        {"key.otherObjects", "What others are told passes the editor.",
+         [](ModuleBench &bench) {
+             openForKeys(bench);
+             QKeyEvent event(QEvent::KeyPress, Qt::Key_D, ctrl);
+             const QStringList calls = bench.commandsOf([&bench, &event] {
+                 expect("it passes", !bench.editor().eventFilter(&bench.searchBox(), &event));
+             });
+             expectEqual("calls", calls, QStringList());
+         }},
         {"key.menuLeavesEvent", "What opens the menu reaches the tree view too.",
          [](ModuleBench &bench) {
              bench.open("a2");

@@ -69,6 +69,15 @@ ModuleChecks wiringChecks()
                   expect("each value is read", bench.log().count("getFontColor") >= 3);
                   expectEqual("other values read", bench.log().count("getText"), 0);
               }},
+             {"wiring.removedOne", "The slot for one removed node refreshes the panel too.",
+              [](ModuleBench &bench) {
+                  bench.open("a2 b3");
+                  bench.select({2});
+                  expect("there is the slot",
+                         QMetaObject::invokeMethod(&bench.editor(), "nodeRemovedUpdate",
+                                                   Qt::DirectConnection, Q_ARG(QRPC::NodeId, 3)));
+                  expectEqual("names read", bench.log().count("getName"), 2);
+              }},
              {"wiring.queued", "Signals from another thread arrive through the event loop.",
               [](ModuleBench &bench) {
                   bench.open("a2 b3");
