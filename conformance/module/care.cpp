@@ -161,6 +161,7 @@ ModuleChecks mixedChecks() // NOLINT(readability-function-size)
              const auto leave = [&field] { Q_EMIT field.editingFinished(); };
              expectEqual("calls", bench.commandsOf(leave), QStringList());
              field.setText("new");
+             Q_EMIT bench.service().nameChanged({3});
              expectEqual("calls", bench.commandsOf(leave), QStringList("setName [2,3] \"new\""));
          }},
         {"mixed.image", "The mark of the image line is handed on to its parts.",
