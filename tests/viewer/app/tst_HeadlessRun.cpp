@@ -47,7 +47,8 @@ private:
 
     QTemporaryDir m_folder;
     QString m_output;
-    QString m_errors;
+    QString m_errors;   // without that work goes on
+    QString m_progress; // that alone; on a slow machine any work may be long
 };
 
 namespace {
@@ -92,7 +93,12 @@ void tst_HeadlessRun::start(QProcess *program, const QStringList &arguments)
 int tst_HeadlessRun::finish(QProcess *program)
 {
     const bool ended = program->waitForFinished(60000);
-    m_errors = QString::fromUtf8(program->readAllStandardError());
+    m_errors.clear();
+    m_progress.clear();
+    const QStringList lines =
+        QString::fromUtf8(program->readAllStandardError()).split('\n', Qt::SkipEmptyParts);
+    for (const QString &line : lines)
+        (line.startsWith("Still ") ? m_progress : m_errors) += line + '\n';
     m_output += QString::fromUtf8(program->readAllStandardOutput());
     return ended && program->exitStatus() == QProcess::NormalExit ? program->exitCode() : -1;
 }
@@ -235,8 +241,7 @@ void tst_HeadlessRun::shouldEndAnEndlessScriptWhenAsked()
         m_output += QString::fromUtf8(program.readAllStandardOutput());
     QCOMPARE(::kill(pid_t(program.processId()), signal), 0);
     QCOMPARE(finish(&program), 8);
-    const QString last = m_errors.section('\n', -2, -2); // that work goes on may be told before
-    QCOMPARE(last, QString("The script \"%1\" was interrupted.").arg(path("s.js")));
+    QCOMPARE(m_errors, QString("The script \"%1\" was interrupted.\n").arg(path("s.js")));
     QVERIFY(!QFile::exists(path("d.json")));
 }
 
@@ -258,7 +263,8 @@ void tst_HeadlessRun::shouldTellThatLongWorkGoesOn()
     write("s.js", "const end = Date.now() + 2500; while (Date.now() < end);");
     QCOMPARE(run({path("a.json"), "--script", path("s.js")}), 0);
     QCOMPARE(m_output, QString());
-    QCOMPARE(m_errors, QString("Still running \"%1\" after 2 s.\n").arg(path("s.js")));
+    QCOMPARE(m_errors, QString());
+    QVERIFY(m_progress.startsWith(QString("Still running \"%1\" after 2 s.\n").arg(path("s.js"))));
 }
 
 void tst_HeadlessRun::shouldLeaveTheBackdropOutWhenTransparent()
