@@ -78,9 +78,17 @@ Step OverlayService::stepOf(Operation operation, const NodeList &nodes) const
 
 void OverlayService::record(Operation operation, const NodeList &nodes, SceneChange change)
 {
+    record(operation, nodes, std::move(change), nodes);
+}
+
+/// The step is called by other nodes than it was asked for.
+void OverlayService::record(Operation operation, const NodeList &named, SceneChange change,
+                            const NodeList &nodes)
+{
     if (change.isEmpty())
         return;
-    Step step = stepOf(operation, nodes);
+    Step step = stepOf(operation, named);
+    step.nodes = nodes;
     step.changes.push_back(std::move(change));
     m_history.record(std::move(step));
 }

@@ -30,13 +30,8 @@ NodeList OverlayService::change(Operation operation, Property property, const No
         setValue(&m_scene, id, property, value);
         changed.append(id);
     }
-    if (!noted.isEmpty()) {
-        Step step = stepOf(operation, changed);
-        step.nodes =
-            known; // a gesture goes on with all of them, also where it meets a value of some
-        step.changes.push_back(std::move(noted));
-        m_history.record(std::move(step));
-    }
+    // A gesture goes on with all of them, also where it meets a value that some have.
+    record(operation, changed, std::move(noted), known);
     return inTreeOrder(m_scene, changed);
 }
 
