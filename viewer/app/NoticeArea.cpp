@@ -157,6 +157,13 @@ void NoticeArea::add(Severity severity, const QString &text)
     place();
 }
 
+void NoticeArea::remove(const QString &text)
+{
+    const int at = texts().indexOf(text);
+    if (at >= 0)
+        dismiss(m_notices.at(at));
+}
+
 bool NoticeArea::dismissNewest()
 {
     if (m_notices.isEmpty())

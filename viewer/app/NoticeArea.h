@@ -59,6 +59,9 @@ public:
     /// Shows a message at the top. A text that stands there already is not shown twice.
     void add(Severity severity, const QString &text);
 
+    /// Takes the message with this text away, where there is one.
+    void remove(const QString &text);
+
     /// Takes the newest message away. False when there is none.
     bool dismissNewest();
 

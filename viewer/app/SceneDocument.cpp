@@ -9,6 +9,8 @@
 #include <QFileInfo>
 #include <QSettings>
 
+#include <utility>
+
 namespace viewer {
 
 namespace {
@@ -151,9 +153,12 @@ bool SceneDocument::write(const QString &file)
 {
     const SceneWriting writing = SceneWriter::write(m_service->scene(), file);
     if (!writing.isWritten()) {
-        emit reported(Severity::Error, writing.error);
+        m_fault = writing.error;
+        emit reported(Severity::Error, m_fault);
         return false;
     }
+    if (!m_fault.isEmpty())
+        emit overcome(std::exchange(m_fault, {}));
     m_service->history().setSaved();
     setPath(file);
     m_state = stateOf(file);

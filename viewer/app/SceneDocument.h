@@ -85,6 +85,9 @@ Q_SIGNALS:
 
     void reported(viewer::Severity severity, const QString &text);
 
+    /// What was reported with this text is over.
+    void overcome(const QString &text);
+
 private:
     /// What tells whether a file has been written by others.
     struct FileState
@@ -105,6 +108,7 @@ private:
     QSettings *m_settings;
     QString m_path;
     FileState m_state; // of the file when it was read or written here
+    QString m_fault;   // for which the scene could not be saved; empty once it could
 };
 
 } // namespace viewer

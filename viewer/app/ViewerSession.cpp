@@ -128,6 +128,8 @@ void ViewerSession::connectDocument()
     connect(&m_document, &SceneDocument::editsWanted, window, &MainWindow::finishEdits);
     connect(&m_document, &SceneDocument::dismissed, this,
             [this] { m_window->viewArea()->notices()->clear(); });
+    connect(&m_document, &SceneDocument::overcome, window->viewArea()->notices(),
+            &NoticeArea::remove);
     connect(&m_document, &SceneDocument::aboutToReplace, this, [this] { m_images.forgetAll(); });
     connect(&m_document, &SceneDocument::pathChanged, window, &MainWindow::setScenePath);
     connect(&m_document, &SceneDocument::opened, this, [this](const QString &path) {
@@ -135,7 +137,6 @@ void ViewerSession::connectDocument()
                                            StatusTime);
     });
     connect(&m_document, &SceneDocument::saved, this, [this](const QString &path) {
-        m_window->viewArea()->notices()->clear(); // one before may have failed
         m_window->statusBar()->showMessage(tr("Saved %1").arg(QDir::toNativeSeparators(path)),
                                            StatusTime);
     });

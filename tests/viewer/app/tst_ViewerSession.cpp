@@ -42,6 +42,7 @@ private Q_SLOTS:
     void shouldTakeOldNoticesAwayWhenTheUserOpensAScene();
     void shouldKeepTheLayoutForTheNextRun();
     void shouldMarkUnsavedChangesInTheTitle();
+    void shouldForgetThatItCouldNotSave();
     void shouldTellThatItCannotRecord();
     void shouldLeaveAPictureAndQuit();
     void shouldWaitForImagesWithThePicture();
@@ -362,6 +363,21 @@ void tst_ViewerSession::shouldMarkUnsavedChangesInTheTitle()
     QVERIFY(session.window()->isWindowModified());
     QVERIFY(session.document()->save());
     QVERIFY(!session.window()->isWindowModified());
+}
+
+void tst_ViewerSession::shouldForgetThatItCouldNotSave()
+{
+    ViewerSession session(line({goodScene()}), nullptr);
+    session.start();
+    session.window()->notify(Severity::Warning, "An image is missing.");
+    QDir folder(m_folder->path());
+    QVERIFY(folder.removeRecursively());
+    session.overlays()->createGroup(Scene::RootId);
+    QVERIFY(!session.document()->save());
+    QCOMPARE(notices(session).size(), 2);
+    QVERIFY(folder.mkpath("."));
+    QVERIFY(session.document()->save());
+    QCOMPARE(notices(session), QStringList("An image is missing."));
 }
 
 void tst_ViewerSession::shouldTellThatItCannotRecord()
