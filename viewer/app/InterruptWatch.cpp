@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
+#include <iterator>
 #include <poll.h>
 #include <unistd.h>
 
@@ -20,7 +21,7 @@ constexpr int Signals[] = {SIGINT, SIGTERM, SIGHUP};
 
 // A handler may do next to nothing, so it wakes a thread through a pipe.
 int s_pipe[2] = {-1, -1};
-struct sigaction s_before[3];
+struct sigaction s_before[std::size(Signals)];
 
 void wake(char what)
 {
@@ -56,11 +57,11 @@ InterruptWatch::InterruptWatch(Call interrupt, Call giveUp)
     struct sigaction action = {};
     action.sa_handler = handleSignal;
     action.sa_flags = int(SA_RESETHAND | SA_RESTART);
-    for (int i = 0; i < 3; ++i) {
-        ::sigaction(Signals[i], &action, &s_before[i]);
-        if (Signals[i] == SIGHUP
-            && s_before[i].sa_handler == SIG_IGN) // it is to outlive its terminal
-            ::sigaction(SIGHUP, &s_before[i], nullptr);
+    for (std::size_t i = 0; i < std::size(Signals); ++i) {
+        ::sigaction(Signals[i], nullptr, &s_before[i]);
+        const bool outlivesTerminal = Signals[i] == SIGHUP && s_before[i].sa_handler == SIG_IGN;
+        if (!outlivesTerminal)
+            ::sigaction(Signals[i], &action, nullptr);
     }
 }
 
@@ -68,7 +69,7 @@ InterruptWatch::~InterruptWatch()
 {
     if (!m_thread.joinable())
         return;
-    for (int i = 0; i < 3; ++i)
+    for (std::size_t i = 0; i < std::size(Signals); ++i)
         ::sigaction(Signals[i], &s_before[i], nullptr);
     wake(Over);
     m_thread.join();
@@ -82,7 +83,7 @@ void InterruptWatch::watch(int pipe) const
         return;
     m_interrupt();
     pollfd next = {pipe, POLLIN, 0};
-    // The same signal is not handled any more, but the other one is.
+    // The same signal is not handled any more, but the others are.
     if (::poll(&next, 1, Patience) != 1 || readFrom(pipe) != Over)
         m_giveUp();
 }

@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QImage>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <csignal>
@@ -28,8 +29,10 @@ private Q_SLOTS:
     void shouldRunOnWhenModuleAndSceneAreBad();
     void shouldLeaveItsWorkToTheNextRunWhenItIsEnded_data();
     void shouldLeaveItsWorkToTheNextRunWhenItIsEnded();
+    void shouldOutliveItsTerminalWhereItIsToldTo();
 
 private:
+    void startEditing(QProcess *program, const QString &settings);
     QString pictureFile() const { return m_folder.filePath("picture.png"); }
 
     QTemporaryDir m_folder;
@@ -161,6 +164,21 @@ void tst_program::shouldRunOnWhenModuleAndSceneAreBad()
     QVERIFY2(shown.errors.contains("/no/scene.json"), qPrintable(shown.errors));
 }
 
+/// Starts a session that does some work, and returns when it has done it.
+void tst_program::startEditing(QProcess *program, const QString &settings)
+{
+    QFile script(m_folder.filePath("edit.js"));
+    QVERIFY(script.open(QIODevice::WriteOnly));
+    script.write("overlays.createGroup(overlays.getRootNode()); print('done');");
+    script.close();
+    QProcessEnvironment environment = environmentFor("offscreen", "en");
+    environment.insert("XDG_CONFIG_HOME", settings);
+    program->setProcessEnvironment(environment);
+    program->start(PROGRAM, {"--no-gl", "--script", script.fileName()});
+    while (!program->readAllStandardOutput().contains("done") && program->waitForReadyRead(60000)) {
+    }
+}
+
 void tst_program::shouldLeaveItsWorkToTheNextRunWhenItIsEnded_data()
 {
     QTest::addColumn<int>("signal");
@@ -173,18 +191,9 @@ void tst_program::shouldLeaveItsWorkToTheNextRunWhenItIsEnded()
 {
     QFETCH(int, signal);
     std::signal(signal, SIG_DFL); // whoever started the test may have it ignored
-    QFile script(m_folder.filePath("edit.js"));
-    QVERIFY(script.open(QIODevice::WriteOnly));
-    script.write("overlays.createGroup(overlays.getRootNode()); print('done');");
-    script.close();
     const QTemporaryDir settings;
-    QProcessEnvironment environment = environmentFor("offscreen", "en");
-    environment.insert("XDG_CONFIG_HOME", settings.path());
     QProcess program;
-    program.setProcessEnvironment(environment);
-    program.start(PROGRAM, {"--no-gl", "--script", script.fileName()});
-    while (!program.readAllStandardOutput().contains("done") && program.waitForReadyRead(60000)) {
-    }
+    startEditing(&program, settings.path());
     QCOMPARE(::kill(pid_t(program.processId()), signal), 0);
     QVERIFY(program.waitForFinished(60000));
     QCOMPARE(program.exitStatus(), QProcess::NormalExit);
@@ -193,6 +202,23 @@ void tst_program::shouldLeaveItsWorkToTheNextRunWhenItIsEnded()
     const QStringList left = unsaved.entryList(QDir::Files);
     QCOMPARE(left.size(), 1); // without a lock
     QVERIFY2(left.constFirst().endsWith(".journal"), qPrintable(left.constFirst()));
+}
+
+void tst_program::shouldOutliveItsTerminalWhereItIsToldTo()
+{
+    const auto before = std::signal(SIGHUP, SIG_IGN); // as nohup does
+    const QTemporaryDir settings;
+    QProcess program;
+    startEditing(&program, settings.path());
+    std::signal(SIGHUP, before);
+    QFile status(QString("/proc/%1/status").arg(program.processId()));
+    QVERIFY(status.open(QIODevice::ReadOnly));
+    static const QRegularExpression mask("SigIgn:\\s*([0-9a-f]+)");
+    const QRegularExpressionMatch ignored = mask.match(status.readAll());
+    const quint64 hangup = 1ULL << (SIGHUP - 1);
+    QCOMPARE(ignored.captured(1).toULongLong(nullptr, 16) & hangup, hangup);
+    program.terminate();
+    QVERIFY(program.waitForFinished(60000));
 }
 
 KX_TEST_MAIN(tst_program)
