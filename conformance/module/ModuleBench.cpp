@@ -129,6 +129,16 @@ void ModuleBench::openShown(const QString &line)
     window().show();
 }
 
+void ModuleBench::beforeNext(const QString &call, const std::function<void()> &deed)
+{
+    service().setCallHook([this, call, deed](const QString &line) {
+        if (!line.startsWith(call))
+            return;
+        service().setCallHook({});
+        deed();
+    });
+}
+
 QModelIndex ModuleBench::index(QRPC::NodeId id)
 {
     const QModelIndexList found =

@@ -81,6 +81,10 @@ public:
     QStringList commandsOf(const std::function<void()> &action) { return log().commandsOf(action); }
     QStringList callsOf(const std::function<void()> &action) { return log().callsOf(action); }
 
+    /// Has the service do something of its own, once: before it answers the next call whose line
+    /// begins with `call`.
+    void beforeNext(const QString &call, const std::function<void()> &deed);
+
     /// How many times `action` has rows inserted into the tree.
     int insertionsOf(const std::function<void()> &action);
 

@@ -161,12 +161,7 @@ ModuleChecks dropMoveChecks() // NOLINT(readability-function-size)
         {"drop.targetGone", "A drop whose target goes while it is made is not taken.",
          [](ModuleBench &bench) {
              bench.open("a2 g3()");
-             bench.service().setCallHook([&bench](const QString &line) {
-                 if (!line.startsWith("moveNodes"))
-                     return;
-                 bench.service().setCallHook({});
-                 bench.service().deleteNodes({3});
-             });
+             bench.beforeNext("moveNodes", [&bench] { bench.service().deleteNodes({3}); });
              expect("it is refused", !drop(bench, {2}, -1, bench.index(3)));
              bench.expectSettled();
          }},

@@ -59,6 +59,15 @@ ModuleChecks itemChecks() // NOLINT(readability-function-size)
              Q_EMIT bench.service().nodesMoved({3}, {1}, {0});
              expectEqual("first", bench.model().index(0, 0).data(idRole), QVariant(3U));
          }},
+        {"item.editIsNoEcho", "What is edited in the tree is not asked for again.",
+         [](ModuleBench &bench) {
+             bench.open("a2 b3");
+             expectEqual("calls", bench.callsOf([&bench] {
+                 bench.model().setData(bench.index(2), "new", Qt::EditRole);
+             }),
+                         QStringList("setName [2] \"new\""));
+             expectEqual("row", bench.item(2).text(), QString("new"));
+         }},
         {"item.checkRole", "The check state is the number 2 for enabled and 0 for disabled.",
          [](ModuleBench &bench) {
              bench.open("a2 b3-");

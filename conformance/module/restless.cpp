@@ -71,12 +71,7 @@ ModuleChecks otherChecks()
          "A row that is made anew before its name is written shows it.",
          [](ModuleBench &bench) {
              bench.open("a2 b3");
-             bench.service().setCallHook([&bench](const QString &line) {
-                 if (!line.startsWith("setName"))
-                     return;
-                 bench.service().setCallHook({});
-                 Q_EMIT bench.service().modelReset();
-             });
+             bench.beforeNext("setName", [&bench] { Q_EMIT bench.service().modelReset(); });
              bench.model().setData(bench.index(2), "new", Qt::EditRole);
              expectEqual("name", bench.service().node(2).name, QString("new"));
              bench.expectTree();
@@ -85,12 +80,7 @@ ModuleChecks otherChecks()
          [](ModuleBench &bench) {
              bench.open("g2(a3) c4");
              bench.select({3});
-             bench.service().setCallHook([&bench](const QString &line) {
-                 if (!line.startsWith("getName"))
-                     return;
-                 bench.service().setCallHook({});
-                 bench.service().deleteNodes({4});
-             });
+             bench.beforeNext("getName", [&bench] { bench.service().deleteNodes({4}); });
              bench.service().setName({2}, "new");
              bench.expectSettled();
              expect("the group is open", bench.tree().isExpanded(bench.index(2)));
@@ -99,8 +89,7 @@ ModuleChecks otherChecks()
         {"restless.twoInOneMoment", "All that is announced in one moment shows.",
          [](ModuleBench &bench) {
              bench.open("g2(a3 b4) c5");
-             bench.service().setCallHook([&bench](const QString &) {
-                 bench.service().setCallHook({});
+             bench.beforeNext({}, [&bench] {
                  bench.service().moveNodes({3}, 1, 0);
                  bench.service().deleteNodes({3});
              });
