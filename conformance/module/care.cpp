@@ -91,6 +91,19 @@ ModuleChecks assistChecks()
                  before = steps;
              }
          }},
+        {"assist.hostsKeys", "Keys of the host pass the tree.",
+         [](ModuleBench &bench) {
+             QKeyEvent event(QEvent::ShortcutOverride, Qt::Key_Z, Qt::ControlModifier);
+             event.ignore();
+             QCoreApplication::sendEvent(&bench.tree(), &event);
+             expect("the tree leaves the key to the host", !event.isAccepted());
+         }},
+    };
+}
+
+ModuleChecks widthChecks()
+{
+    return {
         {"assist.paneWidth", "The panel is never too narrow for its controls.",
          [](ModuleBench &bench) {
              QMainWindow &window = bench.window();
@@ -105,12 +118,26 @@ ModuleChecks assistChecks()
                     pane.minimumWidth() > pane.widget()->minimumSizeHint().width());
              window.resize(before);
          }},
-        {"assist.hostsKeys", "Keys of the host pass the tree.",
+        {"assist.paneWidthFollows", "The panel widens with its controls, before it lacks the room.",
          [](ModuleBench &bench) {
-             QKeyEvent event(QEvent::ShortcutOverride, Qt::Key_Z, Qt::ControlModifier);
-             event.ignore();
-             QCoreApplication::sendEvent(&bench.tree(), &event);
-             expect("the tree leaves the key to the host", !event.isAccepted());
+             QMainWindow &window = bench.window();
+             window.show();
+             const QSize size = window.size();
+             auto &pane = bench.form<QScrollArea>("_property_scrollArea");
+             const int least = pane.minimumWidth();
+             window.resize(3 * least, size.height());
+             QCoreApplication::processEvents();
+             auto &name = bench.form<QLineEdit>("_overlay_name");
+             name.setMinimumWidth(least);
+             for (int level = 0; level < 10; ++level)
+                 QCoreApplication::processEvents(); // what contains it is asked level by level
+             const int needed = pane.widget()->minimumSizeHint().width();
+             expect("more room is needed", needed > least);
+             expect("there is room for all", pane.minimumWidth() > needed);
+             name.setMinimumWidth(0);
+             QCoreApplication::processEvents();
+             pane.setMinimumWidth(least);
+             window.resize(size);
          }},
     };
 }
@@ -312,7 +339,7 @@ ModuleChecks costChecks()
 
 ModuleChecks careChecks()
 {
-    return joined<ModuleBench>({assistChecks(), mixedChecks(), costChecks()});
+    return joined<ModuleBench>({assistChecks(), widthChecks(), mixedChecks(), costChecks()});
 }
 
 } // namespace conformance

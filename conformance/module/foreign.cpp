@@ -85,6 +85,18 @@ ModuleChecks refusedChecks()
                  expect("it is open", bench.tree().isExpanded(bench.index(node)));
              expect("it is closed", !bench.tree().isExpanded(bench.index(5)));
          }},
+        {"foreign.currentRow", "The keyboard goes on from the first of the rows that came.",
+         [](ModuleBench &bench) {
+             bench.openShown("g2(a3) m4()");
+             bench.service().setHook([&bench](const QString &) {
+                 bench.service().setHook(nullptr);
+                 bench.service().place(3, 2, 0); // it stays in its group
+             });
+             drop(bench, DropData().add(DropData::treeFormat(), DropData::records({3, 2})), 0,
+                  DropCase::On);
+             expectEqual("tree", bench.shown(), QString("m4() g2(a3)"));
+             expect("the first is current", bench.tree().currentIndex() == bench.index(3));
+         }},
         {"foreign.oneColumn", "Rows of a table leave the tree with one column.",
          [](ModuleBench &bench) {
              bench.openShown("a2 g3() c6");

@@ -154,6 +154,14 @@ ModuleChecks treeChecks() // NOLINT(readability-function-size)
              Q_EMIT bench.service().nodesRemoved({0, 99, 2, 2});
              bench.expectTree();
          }},
+        {"tree.removesNoRoot", "The root is no row: a removal that names it takes nothing away.",
+         [](ModuleBench &bench) {
+             bench.open("a2 g3(b4)");
+             Q_EMIT bench.service().nodesRemoved({RecordingService::rootId});
+             bench.expectTree();
+             Q_EMIT bench.service().modelReset();
+             bench.expectTree();
+         }},
         {"tree.nodeComesBack",
          "A removed node that comes back shows its present name and children.",
          [](ModuleBench &bench) {
