@@ -13,10 +13,10 @@
 
 namespace minimal {
 
+//! [node]
 using QRPC::NodeId;
 using QRPC::NodeList;
 
-//! [node]
 enum class Kind { Group, Switch, Overlay };
 
 /// One node. What it begins with are the values for "none", so that a group, whose overlay values are
@@ -69,6 +69,7 @@ inline bool isSame(const QPointF &a, const QPointF &b)
 }
 //! [same]
 
+//! [class]
 /// The overlay service of this host: the nodes in memory, in one table by id. Wherever the simple way
 /// costs a walk over all nodes it takes that way: lists are brought into the order of the tree by
 /// walking it, and what an operation enabled or disabled is found by comparing before and after.
@@ -81,6 +82,7 @@ public:
     /// A node and all that lies in it, parents before children, siblings by row: the order of the
     /// tree. Later ones are drawn above earlier ones.
     NodeList subtree(NodeId top);
+    //! [class]
 
     //! [getters]
     NodeId getRootNode() override { return Root; }
@@ -105,6 +107,8 @@ public:
         write(nodes, &Node::text, text, &S::textChanged);
     }
     //! [values]
+
+    //! [others]
     QString getFont(NodeId id) override { return ask(id, &Node::font); }
     void setFont(const NodeList &nodes, const QString &family) override
     {
@@ -157,7 +161,9 @@ public:
     void setOverlayType(const NodeList &nodes, int type) override;
     QString getImage(NodeId id) override { return ask(id, &Node::image); }
     void setImage(const NodeList &nodes, const QString &path) override;
+    //! [others]
 
+    //! [operations]
     NodeId createOverlay(NodeId parent) override { return create(Kind::Overlay, parent); }
     NodeId createGroup(NodeId parent) override { return create(Kind::Group, parent); }
     NodeId createSwitch(NodeId parent) override { return create(Kind::Switch, parent); }
@@ -167,7 +173,9 @@ public:
     void moveNodes(const NodeList &nodes, NodeId newParent, int row) override;
     void setName(const NodeList &nodes, const QString &name) override;
     void setEnabled(const NodeList &nodes, bool enabled) override;
+    //! [operations]
 
+    //! [names]
 Q_SIGNALS:
     /// Anything changed. For the host's own view, which draws everything anew.
     void changed();
@@ -177,6 +185,7 @@ private:
     using S = kxOverlayService;
     using Signal = void (S::*)(const NodeList &);
     using Announcement = std::function<void()>;
+    //! [names]
 
     //! [ask]
     Node *find(NodeId id)
@@ -192,6 +201,7 @@ private:
     }
     //! [ask]
 
+    //! [tools]
     // The lists that modules hand in, made fit for use.
     NodeList known(const NodeList &nodes);
     NodeList overlaysIn(const NodeList &nodes);
@@ -210,6 +220,7 @@ private:
     QSet<NodeId> enabledNodes();
     NodeList changedSince(const QSet<NodeId> &enabledBefore);
     NodeId highestDisabled(NodeId id);
+    //! [tools]
 
     //! [write]
     /// Gives known nodes a value; returns those that had another one.
@@ -233,6 +244,7 @@ private:
     }
     //! [write]
 
+    //! [members]
     void announce(Signal signal, const NodeList &nodes);
     void announce(const Announcement &announcement);
     void announceMove(const Announcement &announcement);
@@ -245,5 +257,6 @@ private:
     QVector<Announcement> m_waiting;
     bool m_isMoving = false; // a move is being announced
 };
+//! [members]
 
 } // namespace minimal

@@ -38,6 +38,7 @@ class Platform : public kxPlatformService
 };
 //! [small]
 
+//! [windows]
 /// The main window, in which each module's window becomes a dock.
 class Windows : public kxMainWindowService
 {
@@ -52,6 +53,7 @@ public:
 private:
     QMainWindow *m_window;
 };
+//! [windows]
 
 //! [services]
 /// All services of this host and the main window that one of them speaks for: registered when it is

@@ -9,6 +9,7 @@
 
 namespace minimal {
 
+//! [class]
 /// What an application draws its overlays on: here nothing but the overlays. Child of the main window;
 /// the overlays outlive it.
 class View : public QWidget
@@ -26,5 +27,6 @@ private:
 
     Overlays *m_overlays;
 };
+//! [class]
 
 } // namespace minimal

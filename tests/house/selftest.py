@@ -343,7 +343,8 @@ Q_SIGNALS:
 
 
 class Snippets(Tree):
-    SOURCE = "//! [a]\n    int a;\n        int b;\n//! [a]\nint c;\n"
+    SOURCE = ("// c\n\n#include <c>\nclass C;\nnamespace c {\n//! [a]\n    int a;\n        int b;\n"
+              "//! [a]\n\n} // namespace c\n")
     QUOTED = "text\n<!-- examples/x.cpp [a] -->\n```cpp\nint a;\n    int b;\n```\nmore\n"
 
     def check(self, source, document):
@@ -364,6 +365,17 @@ class Snippets(Tree):
 
     def test_should_find_a_mark_that_is_quoted_nowhere(self):
         self.assertEqual(self.check(self.SOURCE, "text\n"), ["examples/x.cpp: [a] is quoted nowhere"])
+
+    def test_should_find_lines_that_no_document_quotes(self):
+        self.assertEqual(self.check(self.SOURCE + "int c;\nint d;\n", self.QUOTED),
+                         ["examples/x.cpp:12: 2 lines from here on stand in no quote"])
+        self.add("examples/y.h", "int c;\n")
+        self.assertEqual(self.check(self.SOURCE, self.QUOTED),
+                         ["examples/y.h:1: 1 lines from here on stand in no quote"])
+
+    def test_should_let_other_projects_be_quoted_nowhere(self):
+        self.add("examples/other/y.h", "int c;\n")
+        self.assertEqual(self.check(self.SOURCE, self.QUOTED), [])
 
     def test_should_find_marks_that_do_not_pair(self):
         for source, fault in (("//! [b]\n", "[b] does not end"),
