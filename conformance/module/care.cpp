@@ -325,6 +325,8 @@ ModuleChecks costChecks()
                  QStringList({"getName", "getOverlayType", "getText", "getFont", "getFontColor",
                               "getBackgroundColor", "getBackgroundTransparency", "getSizeType",
                               "getSize", "getPosition", "getOffset"}));
+             expect("the size is read to its end before the position",
+                    calls.lastIndexOf("getSize 2") < calls.indexOf("getPosition 2"));
          }},
         {"cost.creation", "The panel is refreshed in proportion to many created nodes.",
          [](ModuleBench &bench) {

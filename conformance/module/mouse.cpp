@@ -224,6 +224,18 @@ ModuleChecks silentChecks()
              bench.expectSettled();
              expectEqual("tree", bench.shown(), QString("h6(g2(a3 g4(b5)))"));
          }},
+        {"mouse.silent.insideOut", "The service may put the group of the target into the target.",
+         [](ModuleBench &bench) {
+             bench.openShown("g2(h3(a4)) b5");
+             bench.select({5});
+             inTheNextCommand(bench, [](RecordingService &service) {
+                 service.place(3, 1, -1);
+                 service.place(2, 3, 0);
+             });
+             drag(bench, 5, 3, Edge::On);
+             bench.expectSettled();
+             expectEqual("tree", bench.shown(), QString("h3(g2() a4 b5)"));
+         }},
         {"mouse.silent.lastRemoved", "A last row whose node is gone goes too, and only that one.",
          [](ModuleBench &bench) {
              bench.openShown("g2(a3 b4 c5) h6()");

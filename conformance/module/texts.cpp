@@ -63,6 +63,15 @@ void translatesInForm(ModuleBench &bench)
         expectMarked(name, bench.form<QWidget>(name).property("caption").toString());
 }
 
+/// The toolkit's own names of keys, as a platform in another language has them.
+void translatesKeys(ModuleBench &bench)
+{
+    const MarkingTranslator translator("QShortcut");
+    bench.callEntry();
+    for (const char *text : {"Create Group", "Toggle", "Select All"})
+        expectMarked(text, bench.menuEntry(text).text().section('\t', 1));
+}
+
 } // namespace
 
 ModuleChecks textChecks()
@@ -72,6 +81,8 @@ ModuleChecks textChecks()
          translatesInCode, Stage::Fresh},
         {"texts.form", "Texts of the form are translated in the context kxOverlayEditorGUI.",
          translatesInForm, Stage::Fresh},
+        {"texts.keys", "Keys in the menu are named as the platform names them.", translatesKeys,
+         Stage::Fresh},
     };
 }
 
