@@ -348,7 +348,7 @@ ModuleChecks otherChecks() // NOLINT(readability-function-size)
          }},
         {"mouse.selectionChangesDuring", "A row that is selected during a drag is not lost.",
          [](ModuleBench &bench) {
-             bench.openShown("a2 g3() b4 c5");
+             bench.openShown("a2 g3() h6(b4 c5)");
              bench.select({2});
              drag(bench, 2, 3, Edge::On, [&bench] { bench.select({4, 5}); });
              bench.expectSettled();

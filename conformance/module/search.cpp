@@ -109,6 +109,13 @@ ModuleChecks searchChecks()
                   expect("a closed row stays closed", !bench.tree().isExpanded(bench.index(4)));
                   expect("an open row stays open", bench.tree().isExpanded(bench.index(3)));
               }},
+             {"search.leavesHiddenGroups", "Rows in a hidden group keep the state that they had.",
+              [](ModuleBench &bench) {
+                  bench.open("g2(a3)");
+                  search(bench, "nothing");
+                  expect("the group is hidden", bench.tree().isRowHidden(0, QModelIndex()));
+                  expect("its child is not", !bench.tree().isRowHidden(0, bench.index(2)));
+              }},
              {"search.keepsTree", "A search changes no row.",
               [](ModuleBench &bench) {
                   openNamed(bench);

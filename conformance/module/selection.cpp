@@ -193,6 +193,16 @@ ModuleChecks changeChecks() // NOLINT(readability-function-size)
                  expectEqual("selection", bench.selected(), outside);
              }
          }},
+        {"selection.invertOverlap", "What is selected twice is no longer selected when inverted.",
+         [](ModuleBench &bench) {
+             bench.open("a2 b3 c4 d5");
+             QItemSelection twice;
+             twice.append({bench.index(2), bench.index(3)});
+             twice.append({bench.index(3), bench.index(4)});
+             bench.tree().selectionModel()->select(twice, QItemSelectionModel::ClearAndSelect);
+             bench.call("invertSelection");
+             expectEqual("selection", bench.selected(), Nodes({5}));
+         }},
         {"selection.invertNone", "Inverting no selection selects everything, and back.",
          [](ModuleBench &bench) {
              bench.open("a2 b3");
