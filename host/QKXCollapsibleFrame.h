@@ -58,7 +58,8 @@ public:
     /// width goes to its other columns. Pages without a grid are left alone. Called by modules once
     /// their pages are filled; again after the texts have changed.
     /// @param root  all frames below it, itself included; nothing happens for null
-    /// @param width least width of the labels, in pixels of a display of 96 dpi
+    /// @param width least width of the labels, in pixels of a display of 96 dpi; one that is not above 0
+    ///              is ignored: the labels are as wide as the widest one
     static void fixLayouts(QWidget *root, int width);
 
 Q_SIGNALS:

@@ -10,7 +10,8 @@
 #include <QSizeF>
 
 /// How a texture lies on what it covers: the record that QKXTextureControls shows and reports. A
-/// plain value, free of any thread; as made it leaves a texture as it is.
+/// plain value, free of any thread; as made it leaves a texture as it is. No operation has an error: a
+/// part that is no number differs from every other.
 struct KXHOST_EXPORT QKXTextureSettings
 {
     /// What is drawn beyond the edges of the image.

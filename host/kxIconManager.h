@@ -29,7 +29,7 @@ public:
     /// An icon at the size of a tree row, at the scale of the primary screen. Called by modules for
     /// every row of a tree.
     /// @param name    of the set; null is no name of it
-    /// @param options which variant
+    /// @param options which variant; unknown bits are ignored
     /// @return a null pixmap for an unknown name, with one warning, and under an application without
     ///         a window system
     static QPixmap get(const char *name, const kxIconOptions &options);

@@ -42,7 +42,7 @@ public:
     void registerService(T *service);
 
     /// The same for a class known at run time only. Called by hosts that wire services from a table.
-    /// @param type    class under which it is found
+    /// @param type    class under which it is found; any type is kept
     /// @param service stays the host's; null is kept and reported. One that is not of that class is
     ///                not found, silently
     void registerService(const std::type_info &type, kxBaseService *service);

@@ -27,14 +27,14 @@ public:
     /// Makes a key known. The same key may be registered more than once, even in one category. Called
     /// by modules while they start.
     /// @param category    translated name of the module; kept as given, also when empty
-    /// @param key         Qt::Key
-    /// @param modifiers   Qt::KeyboardModifiers; 0 for none
+    /// @param key         Qt::Key; any number is kept
+    /// @param modifiers   Qt::KeyboardModifiers; 0 for none; any number is kept
     /// @param description translated name of the command; kept as given, also when empty
     static void addKey(const QString &category, int key, int modifiers, const QString &description);
 
     /// The text of a key with its modifiers.
     /// @param key       Qt::Key; 0 for none; any other number counts as a key, whatever its text
-    /// @param modifiers Qt::KeyboardModifiers; 0 for none
+    /// @param modifiers Qt::KeyboardModifiers; 0 for none; any other bit counts as one of the key
     /// @param portable  in the form for files, which is the same on every platform, and not as the
     ///                  platform shows it in menus
     /// @return empty when there is no key

@@ -51,13 +51,13 @@ public:
 
     /// Draws the look of a mixed field, for widgets that draw themselves.
     /// @param painter never null; one that is not active is ignored, with Qt's warnings
-    /// @param rect    the field, in the painter's coordinates
+    /// @param rect    the field, in the painter's coordinates; an empty one is ignored
     /// @param enabled false for the dimmed look
     static void drawMixedField(QPainter *painter, const QRect &rect, bool enabled);
 
     /// Writes mixedText(), or a dash where the words do not fit.
     /// @param painter never null; one that is not active is ignored, with Qt's warnings
-    /// @param rect    the room for the words, in the painter's coordinates
+    /// @param rect    the room for the words, in the painter's coordinates; an empty one is ignored
     /// @param enabled false for the dimmed look
     static void drawMixedText(QPainter *painter, const QRect &rect, bool enabled);
 

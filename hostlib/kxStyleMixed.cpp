@@ -96,6 +96,8 @@ QString kxStyle::mixedText()
 
 void kxStyle::drawMixedField(QPainter *painter, const QRect &rect, bool enabled)
 {
+    if (rect.isEmpty())
+        return;
     const QColor color = enabled ? QColor(kxStyleColors::mixed) : QColor(kxStyleColors::border);
     QPainterPath shape;
     shape.addRoundedRect(rect, 3, 3);
@@ -115,6 +117,8 @@ void kxStyle::drawMixedField(QPainter *painter, const QRect &rect, bool enabled)
 
 void kxStyle::drawMixedText(QPainter *painter, const QRect &rect, bool enabled)
 {
+    if (rect.isEmpty())
+        return;
     painter->save();
     QFont font = painter->font();
     font.setItalic(true);

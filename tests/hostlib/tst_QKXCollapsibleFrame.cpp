@@ -231,6 +231,11 @@ void tst_QKXCollapsibleFrame::shouldKeepAtLeastTheStatedWidth()
     const int scaled = qRound(300 * m_window->logicalDpiX() / 96.0);
     QTRY_COMPARE(gridOf(m_second)->itemAtPosition(0, 0)->widget()->width(), scaled);
     QCOMPARE(gridOf(m_first)->columnMinimumWidth(0), 0);
+    QKXCollapsibleFrame::fixLayouts(m_second, 0);
+    const int needed = gridOf(m_second)->columnMinimumWidth(0);
+    QVERIFY(needed > 0);
+    QKXCollapsibleFrame::fixLayouts(m_second, -300);
+    QCOMPARE(gridOf(m_second)->columnMinimumWidth(0), needed);
 }
 
 void tst_QKXCollapsibleFrame::shouldCountHiddenLabels()

@@ -252,6 +252,9 @@ void tst_QKXTextureSettings::shouldCompareEverySetting()
     QVERIFY(differs(&S::repeat) && differs(&S::offset) && differs(&S::rotation));
     QVERIFY(differs(&S::realWorldScale) && differs(&S::realWorldSize) && differs(&S::anisotropy));
     QVERIFY(differs(&S::gamma) && differs(&S::alpha) && differs(&S::linked));
+    S noNumber;
+    noNumber.rotation = qQNaN();
+    QVERIFY(noNumber != S(noNumber));
 }
 
 KX_TEST_MAIN(tst_QKXTextureSettings)

@@ -12,6 +12,7 @@ class tst_kxShortcut : public KxTest
 private Q_SLOTS:
     void cleanup() override;
     void shouldKeepKeysInTheOrderOfRegistration();
+    void shouldKeepWhatIsNoKey();
     void shouldGiveTheTextOfAKey_data();
     void shouldGiveTheTextOfAKey();
     void shouldKeepIconOptionsAsBits();
@@ -37,6 +38,15 @@ void tst_kxShortcut::shouldKeepKeysInTheOrderOfRegistration()
     QVERIFY(kxShortcut::registeredKeys().isEmpty());
 }
 
+void tst_kxShortcut::shouldKeepWhatIsNoKey()
+{
+    kxShortcut::addKey(QString(), 0, -1, QString());
+    const QVector<kxShortcut::Entry> keys = kxShortcut::registeredKeys();
+    QCOMPARE(keys.size(), 1);
+    QCOMPARE(keys.first().key, 0);
+    QCOMPARE(keys.first().modifiers, -1);
+}
+
 void tst_kxShortcut::shouldGiveTheTextOfAKey_data()
 {
     QTest::addColumn<int>("key");
@@ -46,6 +56,7 @@ void tst_kxShortcut::shouldGiveTheTextOfAKey_data()
                             << QStringLiteral("Ctrl+G");
     QTest::newRow("two modifiers") << int(Qt::Key_A) << int(Qt::ControlModifier | Qt::ShiftModifier)
                                    << QStringLiteral("Ctrl+Shift+A");
+    QTest::newRow("a bit of the key") << int(Qt::Key_A) << 2 << QStringLiteral("C");
     QTest::newRow("none") << 0 << int(Qt::ControlModifier) << QString();
 }
 

@@ -5,9 +5,10 @@
 #include "tests/support/KxTest.h"
 
 #include <QApplication>
+#include <QPainter>
 #include <QPlainTextEdit>
 
-/// The frames of areas, at scale factors that put them between pixels.
+/// The frames of areas at scale factors that put them between pixels, and of fields without room.
 class tst_kxStyleFrames : public KxTest
 {
     Q_OBJECT
@@ -15,6 +16,7 @@ class tst_kxStyleFrames : public KxTest
 private Q_SLOTS:
     void initTestCase();
     void shouldFrameAnAreaOnAllSidesOfAFineDisplay();
+    void shouldDrawNothingIntoAnEmptyField();
 };
 
 void tst_kxStyleFrames::initTestCase()
@@ -48,6 +50,21 @@ void tst_kxStyleFrames::shouldFrameAnAreaOnAllSidesOfAFineDisplay()
         QVERIFY(shows(center.x(), place.top()));
         QVERIFY(shows(place.right(), center.y()));
         QVERIFY(shows(center.x(), place.bottom()));
+    }
+}
+
+void tst_kxStyleFrames::shouldDrawNothingIntoAnEmptyField()
+{
+    QImage image(80, 80, QImage::Format_RGB32);
+    image.fill(Qt::black);
+    const QImage empty = image;
+    for (const QRect &room :
+         {QRect(), QRect(20, 20, 0, 20), QRect(20, 20, 20, 0), QRect(60, 60, -30, -30)}) {
+        QPainter painter(&image);
+        kxStyle::drawMixedField(&painter, room, true);
+        QCOMPARE(image, empty);
+        kxStyle::drawMixedText(&painter, room, true);
+        QCOMPARE(image, empty);
     }
 }
 

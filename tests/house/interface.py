@@ -9,11 +9,13 @@ Doxygen warns of every public class, operation, signal and parameter without a m
 - what is asked of a node has an answer for unknown ones, and a class names its thread;
 - an operation on nodes, or its class, says what becomes of ids that it does not know, a signal that
   carries nodes that there is always one;
-- an operation that takes more than yes or no, or its class, says what becomes of what is wrong.
+- of each parameter that is more than yes or no its words, those of its operation or those of its class
+  say what becomes of what is wrong.
 
 Usage: interface.py ROOT
 """
 
+import itertools
 import pathlib
 import re
 import subprocess
@@ -21,10 +23,13 @@ import sys
 import tempfile
 import xml.etree.ElementTree as ET
 
-NUMBER = re.compile(r"^(?:const )?(?:unsigned )?(?:int|long|float|double|qreal|quint32)$"
-                    r"|\bQ(?:Point|Size|Rect)F?\b")
+NUMBER = re.compile(r"^(?:const )?(?:std::)?(?:(?:signed|unsigned|char|short|int|long|float|double|uint|qreal"
+                    r"|qsizetype|size_t|q?u?int\d+(?:_t)?) ?)+&?$"
+                    r"|\bQ(?:Point|Size|Rect|Line|Margins)F?\b|\bstd::chrono::")
 NODES = re.compile(r"\bNode(?:Id|List)\b")
-OPTIONAL = re.compile(r"\*$|\bQString\b|\bstd::string\b|\bQ(?:Color|Icon|Pixmap)\b|\bQVector\b")
+OPTIONAL = re.compile(r"\*$|\bQ(?:String(?:List|View)?|ByteArray|Variant|Color|Icon|Pixmap|Image|Url|Font"
+                      r"|List|Vector|Set|Map|Hash|ModelIndex|Pointer|SharedPointer)\b"
+                      r"|\bstd::(?:string|function|optional|vector|map|set|unique_ptr|shared_ptr)\b")
 UNIT = re.compile(r"\d|\b(?:points?|pixels?|degrees|metres|index|row|numbers?|unit|fraction|Qt::\w+"
                   r"|bits?|coordinates|reserved)\b")
 NONE = re.compile(r"\b(?:none|null|empty|0|invalid|never|valid|any|unique|kept too|opaque"
@@ -49,8 +54,10 @@ def comment_of(element):
 
 
 def described(member):
-    """What the comment of a member says in all, of each parameter, and of what it gives."""
+    """What the comment of a member says of it all, of each parameter, and of what it gives."""
     whole = comment_of(member)
+    for part in itertools.chain(member.iter("parameterlist"), member.iter("simplesect")):
+        whole = whole.replace(text_of(part), "")
     parts = {name.text: text_of(item.find("parameterdescription"))
              for item in member.iter("parameteritem") for name in item.iter("parametername")}
     gives = WORDS(text_of(part) for part in member.iter("simplesect") if part.get("kind") == "return")
@@ -84,15 +91,15 @@ def gaps(member, around):
     """What the comment of one operation or signal leaves open; `around` is that of its class."""
     whole, parts, gives = described(member)
     kind = text_of(member.find("type"))
-    doubtful = asked = False
+    asked = False
     for name in member.findall("templateparamlist/param/type"):
         if name.text.split()[-1] not in parts:
             yield f"nothing about `{name.text}`"
     for param in member.findall("param"):
         name, taken = param.findtext("declname"), text_of(param.find("type"))
         says = parts.get(name, "")
-        doubtful = doubtful or can_be_wrong(taken, says)
         if not name:
+            yield "a parameter without a name"
             continue
         if not says:
             yield f"nothing about `{name}`"
@@ -100,13 +107,14 @@ def gaps(member, around):
         found = (lacks_of_nodes(member, f"{says} {gives}", around) if NODES.search(taken)
                  else lacks(taken, says))
         yield from (f"{gap} at `{name}`" for gap in found)
+        if (member.get("kind") != "signal" and can_be_wrong(taken, says)
+                and not WRONG.search(f"{whole} {says}") and not NO_ERROR.search(around)):
+            yield f"nothing about what is wrong at `{name}`"
         asked = asked or taken == "QRPC::NodeId"
     if kind and kind != "void" and "virtual void" not in kind:
         yield from (f"{gap} at what it gives" for gap in lacks(kind, gives))
         if asked and not NOTHING_FOUND.search(gives):
             yield "nothing about what it gives for an unknown node"
-    if doubtful and member.get("kind") != "signal" and not (WRONG.search(whole) or NO_ERROR.search(around)):
-        yield "nothing about what is wrong"
 
 
 def gaps_of_value(member):
@@ -115,7 +123,7 @@ def gaps_of_value(member):
     return lacks(kind, described(member)[0])
 
 
-OPERATIONS = ("function", "signal", "slot")
+OPERATIONS = ("function", "friend", "signal", "slot")
 VALUES = ("variable", "property", "typedef")
 
 

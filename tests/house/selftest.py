@@ -327,7 +327,7 @@ Q_SIGNALS:
     def test_should_miss_the_error_of_an_operation_that_is_no_member(self):
         self.add("host/b.h", "/// \\file\n/// One function.\n\n/// Goes on.\n/// @param way pixels\n"
                              "void go(int way);\n")
-        self.assertEqual(self.check(""), ["go: nothing about what is wrong"])
+        self.assertEqual(self.check(""), ["go: nothing about what is wrong at `way`"])
 
     def test_should_miss_a_unit_a_none_and_what_is_wrong(self):
         self.assertEqual(self.check("""
@@ -337,9 +337,35 @@ Q_SIGNALS:
     /// @return what was there before
     QString move(double way, QWidget *by);
 """, "/// A service on one thread.\nclass A\n{\npublic:\n"), [
-            "A::move: no unit or range at `way`", "A::move: nothing about none at `by`",
-            "A::move: nothing about none at what it gives",
-            "A::move: nothing about what is wrong"])
+            "A::move: no unit or range at `way`", "A::move: nothing about what is wrong at `way`",
+            "A::move: nothing about none at `by`", "A::move: nothing about none at what it gives"])
+
+    def test_should_miss_what_is_wrong_at_one_of_two(self):
+        start = "/// A service on one thread.\nclass A\n{\npublic:\n"
+        one = """
+    /// Moves it.
+    /// @param way pixels; ignored below 0
+    /// @param up  pixels
+    void move(int way, int up);
+"""
+        self.assertEqual(self.check(one, start), ["A::move: nothing about what is wrong at `up`"])
+        self.assertEqual(self.check(one.replace("Moves it", "Moves it; an error ends that"), start), [])
+
+    def test_should_know_numbers_and_what_can_be_none_in_any_spelling(self):
+        for kind in ("qint64", "unsigned", "unsigned long long", "std::uint8_t", "const double &", "QSizeF"):
+            with self.subTest(kind=kind):
+                self.assertEqual(self.check(f"    /// Goes.\n    /// @param a how far\n    void go({kind} a);\n"),
+                                 ["A::go: no unit or range at `a`"])
+        for kind in ("const QStringList &", "const QVariant &", "std::function< void()>", "QByteArray"):
+            with self.subTest(kind=kind):
+                self.assertEqual(self.check(f"    /// Goes.\n    /// @param a what\n    void go({kind} a);\n"),
+                                 ["A::go: nothing about none at `a`"])
+
+    def test_should_ask_a_friend_and_a_parameter_without_a_name(self):
+        self.assertEqual(self.check("    /// Compares.\n    /// @param a how far\n"
+                                    "    friend int far(int a, int);\n"),
+                         ["A::far: no unit or range at `a`", "A::far: a parameter without a name",
+                          "A::far: no unit or range at what it gives"])
 
 
 class Snippets(Tree):
