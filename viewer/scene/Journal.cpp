@@ -44,12 +44,8 @@ bool writeJournal(const QString &path, const QByteArray &head, const QByteArray 
            && file.write(scene) == scene.size() && file.flush() && file.commit();
 }
 
-/// Leaves no lock behind that nobody holds.
-bool isHeld(const QString &journal)
-{
-    return !makeLock(journal)->tryLock(0);
-}
-
+/// Under the lock of each journal: whoever takes one up meanwhile keeps what belongs to it. A lock that
+/// nobody holds goes with the one that is taken in its place; by its name it may be another viewer's.
 void removeRemains(const QString &folder)
 {
     const QDir dir(folder);
@@ -57,8 +53,9 @@ void removeRemains(const QString &folder)
     const QStringList names =
         dir.entryList({QLatin1Char('*') + ending + QLatin1String(".*")}, QDir::Files);
     for (const QString &name : names) {
-        const int end = name.indexOf(ending) + ending.size();
-        if (!isHeld(dir.filePath(name.left(end))))
+        const QString journal = name.left(name.indexOf(ending) + ending.size());
+        const auto lock = makeLock(dir.filePath(journal));
+        if (lock->tryLock(0) && name != lockOf(journal))
             QFile::remove(dir.filePath(name));
     }
 }
@@ -167,14 +164,24 @@ QVector<LostWork> Journal::lostWork(const QString &folder)
     const QFileInfoList files = QDir(folder).entryInfoList(
         {QLatin1Char('*') + journalEnding()}, QDir::Files, QDir::Time | QDir::Reversed);
     for (const QFileInfo &info : files) {
-        if (isHeld(info.filePath()))
-            continue;
-        QFile file(info.filePath());
-        const QByteArray head = file.open(QIODevice::ReadOnly) ? file.readLine() : QByteArray();
-        const QByteArray path = QByteArray::fromPercentEncoding(head.trimmed());
-        found.append({info.filePath(), QString::fromUtf8(path), info.lastModified()});
+        const std::optional<LostWork> work = claim(info.filePath());
+        if (work)
+            found.append(*work);
     }
     return found;
+}
+
+std::optional<LostWork> Journal::claim(const QString &journal)
+{
+    std::shared_ptr<QLockFile> lock = makeLock(journal);
+    // Seen before it was locked, it may have been another viewer's until then.
+    if (!lock->tryLock(0) || !QFile::exists(journal))
+        return {};
+    QFile file(journal);
+    const QByteArray head = file.open(QIODevice::ReadOnly) ? file.readLine() : QByteArray();
+    const QByteArray path = QByteArray::fromPercentEncoding(head.trimmed());
+    return LostWork{journal, QString::fromUtf8(path), QFileInfo(journal).lastModified(),
+                    std::move(lock)};
 }
 
 SceneReading Journal::recover(const LostWork &work)

@@ -12,6 +12,7 @@
 #include <QTimer>
 
 #include <memory>
+#include <optional>
 
 class QThreadPool;
 
@@ -25,6 +26,9 @@ struct LostWork
     QString journal; ///< the file that holds it
     QString path;    ///< the scene file that was open; empty for none
     QDateTime time;  ///< of the last change in it
+
+    /// Keeps other viewers off the journal; goes with the last copy.
+    std::shared_ptr<QLockFile> claim = nullptr;
 };
 
 /// Keeps what is not saved yet in a file of its own, so that a crash loses no more than the last
@@ -54,9 +58,12 @@ public:
     /// The user does not want what is not saved. Nothing of the scene is kept any more.
     void letGo();
 
-    /// Journals in `folder` that no running viewer holds, oldest first. What else killed viewers left
-    /// there, such as a text that was not whole yet, goes.
+    /// Claims the journals in `folder` that no running viewer holds, oldest first. What else killed
+    /// viewers left there, such as a text that was not whole yet, goes.
     static QVector<LostWork> lostWork(const QString &folder);
+
+    /// Takes up a single journal; none when another viewer holds it or has been done with it.
+    static std::optional<LostWork> claim(const QString &journal);
 
     /// The scene in a journal; none, with an error that names file and place, when it is broken.
     static SceneReading recover(const LostWork &work);

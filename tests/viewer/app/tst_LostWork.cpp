@@ -19,26 +19,29 @@ Q_DECLARE_METATYPE(viewer::FileQuestions::Answer)
 
 namespace {
 
-/// Answers as it is told, and lists what it was asked for.
+/// Answers as it is told once something else was done meanwhile, and lists what it was asked for.
 class Answers : public FileQuestions
 {
 public:
-    Answers(Answer answer, QStringList *asked)
+    Answers(Answer answer, QStringList *asked, std::function<void()> meanwhile)
         : FileQuestions(nullptr)
         , m_answer(answer)
         , m_asked(asked)
+        , m_meanwhile(std::move(meanwhile))
     {
     }
 
     Answer aboutRecovery(const QString &name, const QString &) override
     {
         m_asked->append(name);
+        m_meanwhile();
         return m_answer;
     }
 
 private:
     Answer m_answer;
     QStringList *m_asked;
+    std::function<void()> m_meanwhile;
 };
 
 } // namespace
@@ -56,6 +59,7 @@ private Q_SLOTS:
     void shouldOfferLostWork();
     void shouldOfferTheLatestFirst_data();
     void shouldOfferTheLatestFirst();
+    void shouldOfferNoWorkThatAnotherViewerOffers();
     void shouldTellOfABrokenJournalAndKeepIt();
     void shouldOfferWhatStandsBesideABrokenJournal();
     void shouldKeepWhatWasRecoveredUntilItIsSafe();
@@ -71,6 +75,7 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<QSettings> m_settings;
     QStringList m_asked;
+    std::function<void()> m_meanwhile; // while a question is open
     std::unique_ptr<ViewerSession> m_session;
 };
 
@@ -81,6 +86,7 @@ void tst_LostWork::init()
     m_settings =
         std::make_unique<QSettings>(m_folder->filePath("settings.ini"), QSettings::IniFormat);
     m_asked.clear();
+    m_meanwhile = [] {};
 }
 
 void tst_LostWork::cleanup()
@@ -113,8 +119,8 @@ void tst_LostWork::leaveWork(const QString &name, int secondsAgo) const
 void tst_LostWork::start(Answer answer, const QString &scene)
 {
     const CommandLine line({"overlay-viewer", "--no-gl", "--plugin", PLUGIN_JOURNAL, scene});
-    m_session = std::make_unique<ViewerSession>(line, m_settings.get(),
-                                                std::make_unique<Answers>(answer, &m_asked));
+    m_session = std::make_unique<ViewerSession>(
+        line, m_settings.get(), std::make_unique<Answers>(answer, &m_asked, m_meanwhile));
     m_session->start();
 }
 
@@ -206,6 +212,19 @@ void tst_LostWork::shouldOfferTheLatestFirst()
         left = left.filter("early");
     }
     QCOMPARE(left, stay);
+}
+
+void tst_LostWork::shouldOfferNoWorkThatAnotherViewerOffers()
+{
+    leaveWork("late", 60);
+    leaveWork("early", 120);
+    QVector<int> offeredElsewhere;
+    m_meanwhile = [this, &offeredElsewhere] {
+        offeredElsewhere.append(Journal::lostWork(unsaved()).size());
+    };
+    start(Answer::Discard);
+    QTRY_COMPARE(offeredElsewhere, QVector<int>({0, 0}));
+    QTRY_COMPARE(QDir(unsaved()).entryList(QDir::Files), QStringList());
 }
 
 void tst_LostWork::shouldTellOfABrokenJournalAndKeepIt()

@@ -42,17 +42,10 @@ private Q_SLOTS:
     void shouldGoWhenTheSceneIsLetGo();
     void shouldNotComeBackOnceItHasGone();
     void shouldStayWhenTheRunEndsOtherwise();
-    void shouldTakeTheRemainsOfKilledViewersAway();
-    void shouldNotOfferTheWorkOfARunningViewer();
-    void shouldNotOfferTheWorkOfAViewerThatHasRunForADay();
-    void shouldListTheOldestFirst();
     void shouldKeepAnyPath_data();
     void shouldKeepAnyPath();
     void shouldFollowThePath();
     void shouldKeepPathsOfImages();
-    void shouldSayWhatIsWrongWithABrokenJournal_data();
-    void shouldSayWhatIsWrongWithABrokenJournal();
-    void shouldPutABrokenJournalAside();
     void shouldSayOnceThatItCannotWrite();
     void shouldSaySoAgainAfterItCould();
     void shouldLoseNoMoreThanTwoSeconds_data();
@@ -62,9 +55,6 @@ private:
     QString folder() const { return m_folder->filePath("journals"); }
     QStringList journals() const { return QDir(folder()).entryList({"*.journal"}); }
     void edit() { m_service->createOverlay(Scene::RootId); }
-
-    /// Puts a file beside the journals.
-    bool leave(const QString &name, const QByteArray &content) const;
 
     /// What a crash would leave: the journal without the lock of its viewer.
     QVector<LostWork> afterACrash() const;
@@ -240,69 +230,11 @@ void tst_Journal::shouldStayWhenTheRunEndsOtherwise()
     edit();
     const int nodes = m_service->scene().nodeCount();
     m_journal.reset();
-    const QVector<LostWork> lost = Journal::lostWork(folder());
+    QVector<LostWork> lost = Journal::lostWork(folder());
     QCOMPARE(lost.size(), 1);
-    QCOMPARE(keptNodes(lost.first()), nodes);
+    QCOMPARE(keptNodes(lost.constFirst()), nodes);
+    lost.clear();
     QCOMPARE(QDir(folder()).entryList(QDir::Files), journals()); // without a lock
-}
-
-/// A lock of a process that is no more, and what it was about to rename.
-void tst_Journal::shouldTakeTheRemainsOfKilledViewersAway()
-{
-    QProcess session;
-    session.start(BUSY_SESSION, {folder(), m_folder->filePath("scene.json"), "1"});
-    const auto lock = [this] { return QDir(folder()).entryList({"*.journal.lock"}).value(0); };
-    QTRY_VERIFY(!lock().isEmpty());
-    session.kill();
-    QVERIFY(session.waitForFinished());
-    const QString journal = lock().section('.', 0, 1);
-    QFile::remove(folder() + '/' + journal); // which the session may have written, or not yet
-    for (const QString &name : {journal + ".Ab12Cd", QString("other.broken"), QString("note.txt")})
-        QVERIFY(leave(name, {}));
-    edit();
-    m_journal->flush();
-    const QString own = journals().value(0);
-    QVERIFY(leave(own + ".Ef34Gh", {})); // which this viewer is writing
-    QVERIFY(Journal::lostWork(folder()).isEmpty());
-    QStringList left{own, own + ".lock", own + ".Ef34Gh", "other.broken", "note.txt"};
-    left.sort();
-    QStringList files = QDir(folder()).entryList(QDir::Files);
-    files.sort();
-    QCOMPARE(files, left);
-}
-
-void tst_Journal::shouldNotOfferTheWorkOfARunningViewer()
-{
-    edit();
-    m_journal->flush();
-    QCOMPARE(Journal::lostWork(folder()).size(), 0);
-}
-
-void tst_Journal::shouldNotOfferTheWorkOfAViewerThatHasRunForADay()
-{
-    edit();
-    m_journal->flush();
-    QFile lock(folder() + '/' + journals().value(0) + ".lock");
-    QVERIFY(lock.open(QIODevice::ReadWrite));
-    QVERIFY(lock.setFileTime(QDateTime::currentDateTime().addDays(-1),
-                             QFileDevice::FileModificationTime));
-    QCOMPARE(Journal::lostWork(folder()).size(), 0);
-}
-
-void tst_Journal::shouldListTheOldestFirst()
-{
-    QVERIFY(QDir().mkpath(folder()));
-    for (const int age : {2, 3, 1}) {
-        QFile file(folder() + QStringLiteral("/%1.journal").arg(age));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QVERIFY(file.setFileTime(QDateTime::currentDateTime().addDays(-age),
-                                 QFileDevice::FileModificationTime));
-    }
-    QStringList names;
-    const QVector<LostWork> lost = Journal::lostWork(folder());
-    for (const LostWork &work : lost)
-        names.append(QFileInfo(work.journal).baseName());
-    QCOMPARE(names, QStringList({"3", "2", "1"}));
 }
 
 void tst_Journal::shouldKeepAnyPath_data()
@@ -347,56 +279,6 @@ void tst_Journal::shouldKeepPathsOfImages()
         QCOMPARE(scene->find(scene->root().children.front())->overlay.image,
                  QString("/pictures/a.png"));
     }
-}
-
-bool tst_Journal::leave(const QString &name, const QByteArray &content) const
-{
-    QFile file(folder() + '/' + name);
-    return QDir().mkpath(folder()) && file.open(QIODevice::WriteOnly)
-           && file.write(content) == content.size();
-}
-
-void tst_Journal::shouldSayWhatIsWrongWithABrokenJournal_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("fault");
-    QTest::newRow("empty") << QByteArray() << ""
-                           << ": byte 2: expected JSON; line 2, ";
-    QTest::newRow("no scene") << QByteArray("/a.json\n") << "/a.json"
-                              << ": byte 9: expected JSON; line 2, ";
-    QTest::newRow("cut short") << QByteArray("/a.json\n{\n \"format\": \"ov") << "/a.json"
-                               << ": byte 25: expected JSON; line 3, ";
-    QTest::newRow("foreign") << QByteArray("/a.json\n{\"format\": \"mail\"}") << "/a.json"
-                             << ": /format: expected \"overlay-scene\", found mail";
-}
-
-/// In words that name the journal, not the file of the scene.
-void tst_Journal::shouldSayWhatIsWrongWithABrokenJournal()
-{
-    QFETCH(QByteArray, content);
-    QFETCH(QString, fault);
-    QVERIFY(leave("x.journal", content));
-    const LostWork work = Journal::lostWork(folder()).value(0);
-    QTEST(work.path, "path");
-    const SceneReading reading = Journal::recover(work);
-    QVERIFY(!reading.scene);
-    QVERIFY2(reading.error.startsWith(folder() + "/x.journal" + fault), qPrintable(reading.error));
-    QVERIFY(QFile::remove(work.journal));
-    QVERIFY2(Journal::recover(work).error.startsWith(work.journal + ": the file cannot be read: "),
-             qPrintable(Journal::recover(work).error));
-}
-
-void tst_Journal::shouldPutABrokenJournalAside()
-{
-    QVERIFY(leave("x.y.journal", "/a.json\n{"));
-    const LostWork work = Journal::lostWork(folder()).value(0);
-    const QString aside = Journal::putAside(work);
-    QCOMPARE(aside, folder() + "/x.y.broken");
-    QVERIFY(Journal::lostWork(folder()).isEmpty());
-    QVERIFY(leave("x.y.journal", "/b.json\n{"));
-    QCOMPARE(Journal::putAside(work), work.journal); // the name is taken, and nothing goes for it
-    QCOMPARE(QDir(folder()).entryList(QDir::Files), QStringList({"x.y.broken", "x.y.journal"}));
 }
 
 void tst_Journal::shouldSayOnceThatItCannotWrite()
