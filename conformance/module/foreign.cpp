@@ -85,6 +85,16 @@ ModuleChecks refusedChecks()
                  expect("it is open", bench.tree().isExpanded(bench.index(node)));
              expect("it is closed", !bench.tree().isExpanded(bench.index(5)));
          }},
+        {"foreign.keepsData", "What else the row of a node that comes back holds goes along.",
+         [](ModuleBench &bench) {
+             bench.openShown("g2(a3) m4()");
+             bench.item(3).setToolTip("a tip");
+             drop(bench, DropData().add(DropData::overlayFormat(), DropData::records({3})), 4,
+                  DropCase::On);
+             bench.expectSettled();
+             expectEqual("tree", bench.shown(), QString("g2() m4(a3)"));
+             expectEqual("tip", bench.item(3).toolTip(), QString("a tip"));
+         }},
         {"foreign.currentRow", "The keyboard goes on from the first of the rows that came.",
          [](ModuleBench &bench) {
              bench.openShown("g2(a3) m4()");
