@@ -11,7 +11,9 @@ namespace conformance {
 namespace {
 
 const char s_exitCodes[] = "\nReturns 0 when all checks hold, 1 when some do not, 2 when the "
-                           "arguments are wrong or the library cannot be checked.\n";
+                           "arguments are wrong, the library cannot be checked or the report "
+                           "cannot be written.\n";
+const int s_mostSeconds = 24 * 60 * 60;
 
 /// The parser asks an application, of which there is none yet, for the name of the program.
 QString helpOf(const QCommandLineParser &parser)
@@ -62,8 +64,8 @@ Options::Options(const QStringList &arguments)
         text = helpOf(parser) + s_exitCodes;
     } else if (!parser.positionalArguments().isEmpty()) {
         fail(QStringLiteral("'%1' is no option").arg(parser.positionalArguments().constFirst()));
-    } else if (seconds < 1) {
-        fail("the timeout has to be a number of seconds");
+    } else if (seconds < 1 || seconds > s_mostSeconds) {
+        fail("the timeout has to be a number of seconds, a day at most");
     } else if (!list && plugin.isEmpty() == host.isEmpty()) {
         fail("give either --plugin or --host");
     }

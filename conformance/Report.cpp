@@ -37,6 +37,12 @@ QString reason(const Failure &failure)
         .arg(failure.what, failure.expected, failure.seen);
 }
 
+/// What a library says may have several lines.
+QString onOneLine(QString text)
+{
+    return text.replace('\n', QLatin1String("\\n"));
+}
+
 QJsonObject object(const Result &result)
 {
     QJsonObject entry{{"name", result.check.name},
@@ -60,8 +66,8 @@ void Report::add(const Result &result)
     if (result.outcome == Result::Outcome::Passed)
         std::printf("ok   %s\n", qPrintable(name));
     else
-        std::printf("FAIL %s: %s (%s)\n", qPrintable(name), qPrintable(reason(result.failure)),
-                    qPrintable(result.check.rule));
+        std::printf("FAIL %s: %s (%s)\n", qPrintable(name),
+                    qPrintable(onOneLine(reason(result.failure))), qPrintable(result.check.rule));
     std::fflush(stdout);
 }
 
@@ -76,6 +82,12 @@ void Report::close() const
 {
     std::printf("%s %s: %d checks, %d failed\n", qPrintable(m_kind), qPrintable(m_file),
                 int(m_results.size()), failed());
+}
+
+QString Report::obstacleAt(const QString &path)
+{
+    QSaveFile file(path);
+    return file.open(QIODevice::WriteOnly) ? QString() : file.errorString();
 }
 
 QString Report::write(const QString &path) const

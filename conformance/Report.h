@@ -20,6 +20,10 @@ public:
     /// Prints the closing count.
     void close() const;
 
+    /// What keeps a file from being written there; empty for nothing. Asked before the checks, which
+    /// take minutes.
+    static QString obstacleAt(const QString &path);
+
     /// Writes the results: JUnit's XML when the name ends in ".xml", else JSON. Returns what went
     /// wrong; empty for nothing.
     QString write(const QString &path) const;

@@ -58,6 +58,10 @@ int runAll(const Options &options)
     const std::unique_ptr<Suite> suite = suiteOf(options);
     if (suite->infos().empty())
         return fault("no check has such a name");
+    const bool hasFile = !options.report.isEmpty();
+    const QString obstacle = hasFile ? Report::obstacleAt(options.report) : QString();
+    if (!obstacle.isEmpty())
+        return fault(QStringLiteral("%1: %2").arg(options.report, obstacle));
     Report report(isModule ? "module" : "host", isModule ? options.plugin : options.host);
     try {
         Runner(suite.get(), options.seconds, options.first).run([&report](const Result &result) {
@@ -67,11 +71,9 @@ int runAll(const Options &options)
         return fault(QString::fromLocal8Bit(problem.what()));
     }
     report.close();
-    if (!options.report.isEmpty()) {
-        const QString problem = report.write(options.report);
-        if (!problem.isEmpty())
-            return fault(QStringLiteral("%1: %2").arg(options.report, problem));
-    }
+    const QString problem = hasFile ? report.write(options.report) : QString();
+    if (!problem.isEmpty())
+        return fault(QStringLiteral("%1: %2").arg(options.report, problem));
     return report.isGood() ? 0 : 1;
 }
 

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <stdexcept>
 
 namespace {
 
@@ -145,6 +146,8 @@ void BrokenService::stumble(const char *operation) const
 {
     if (is("crash", operation))
         std::abort();
+    if (is("throw", operation))
+        throw std::runtime_error("out of\nplaces");
     while (is("hang", operation)) {
     }
 }

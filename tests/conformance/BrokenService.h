@@ -13,7 +13,7 @@
 /// - "drop:signal", "double:signal", "reverse:signal": the signal is not sent, is sent twice, names
 ///   its nodes in the other order;
 /// - "late:signal": the signal is sent from the event loop;
-/// - "crash:question", "hang:question": for the tests of the program itself.
+/// - "crash:question", "hang:question", "throw:question": for the tests of the program itself.
 ///
 /// Role: a host that breaks one rule, behind a sound one. Owner: the library's entry.
 class BrokenService : public kxOverlayService

@@ -19,6 +19,10 @@ class tst_conformanceProgram : public KxTest
 private Q_SLOTS:
     void shouldSucceedWhenAllChecksHold();
     void shouldFailAndSayWhatWasSeen();
+    void shouldTellOfACheckOnOneLine();
+    void shouldCheckAModule();
+    void shouldFindABrokenModule_data();
+    void shouldFindABrokenModule();
     void shouldGoOnBehindACheckThat_data();
     void shouldGoOnBehindACheckThat();
     void shouldStopAtTheFirstFailureOnDemand_data();
@@ -42,6 +46,7 @@ private:
     /// Runs the program on the host that has this fault.
     static Run run(const QStringList &arguments, const QString &fault = QString());
     static Run runHost(const QStringList &more, const QString &fault);
+    static QJsonObject reportIn(const QString &path);
 
     QTemporaryDir m_folder;
 };
@@ -69,6 +74,13 @@ tst_conformanceProgram::Run tst_conformanceProgram::runHost(const QStringList &m
     return run(QStringList{"--host", BROKEN_HOST} + more, fault);
 }
 
+QJsonObject tst_conformanceProgram::reportIn(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object()
+                                          : QJsonObject();
+}
+
 void tst_conformanceProgram::shouldSucceedWhenAllChecksHold()
 {
     const Run seen = runHost({"--only", "nodes.unknown", "--only", "name.*"}, QString());
@@ -88,6 +100,59 @@ void tst_conformanceProgram::shouldFailAndSayWhatWasSeen()
                  R"(seen ("nameChanged s b g a") (Overlays, groups and switches)"),
              qPrintable(seen.lines.first()));
     QVERIFY(seen.lines.last().endsWith("1 checks, 1 failed"));
+}
+
+/// Also where the library's own words have several.
+void tst_conformanceProgram::shouldTellOfACheckOnOneLine()
+{
+    const Run seen = runHost({"--only", "nodes.unknown"}, "throw:getName");
+    QCOMPARE(seen.code, 1);
+    QCOMPARE(seen.lines.size(), 2);
+    QVERIFY2(seen.lines.first().startsWith("FAIL nodes.unknown: exceptions out of the library: "
+                                           "expected none, seen out of\\nplaces ("),
+             qPrintable(seen.lines.first()));
+}
+
+void tst_conformanceProgram::shouldCheckAModule()
+{
+    const QString path = m_folder.filePath("module.json");
+    const Run seen = run(
+        {"--plugin", PLUGIN, "--only", "entry.shortcuts", "--only", "tree.re*", "--report", path});
+    QCOMPARE(seen.code, 0);
+    QCOMPARE(seen.error, QString());
+    QCOMPARE(seen.lines.first(), QString("ok   entry.shortcuts"));
+    QVERIFY(seen.lines.contains("ok   tree.renames"));
+    const int count = seen.lines.size() - 1;
+    QCOMPARE(seen.lines.last(), QString("module %1: %2 checks, 0 failed").arg(PLUGIN).arg(count));
+    const QJsonObject report = reportIn(path);
+    QCOMPARE(report.value("kind").toString(), QString("module"));
+    QCOMPARE(report.value("file").toString(), QString(PLUGIN));
+    QCOMPARE(report.value("checked").toInt(), count);
+    QCOMPARE(report.value("failed").toInt(), 0);
+}
+
+void tst_conformanceProgram::shouldFindABrokenModule_data()
+{
+    QTest::addColumn<QString>("module");
+    QTest::addColumn<QString>("seenLine");
+    QTest::newRow("without a window") << MODULE_WITHOUT_WINDOW << "a module window is registered";
+    QTest::newRow("an exception") << MODULE_THAT_THROWS
+                                  << "exceptions out of the library: expected none, seen no room";
+    QTest::newRow("no exception of the library")
+        << MODULE_THAT_THROWS_A_NUMBER << "ended by signal 6";
+}
+
+void tst_conformanceProgram::shouldFindABrokenModule()
+{
+    QFETCH(QString, module);
+    QFETCH(QString, seenLine);
+    const Run seen = run({"--plugin", module, "--only", "entry.registersOneWindow"});
+    QCOMPARE(seen.code, 1);
+    QCOMPARE(seen.lines.size(), 2);
+    QVERIFY2(seen.lines.first().startsWith("FAIL entry.registersOneWindow: ")
+                 && seen.lines.first().contains(seenLine),
+             qPrintable(seen.lines.first()));
+    QCOMPARE(seen.lines.last(), QString("module %1: 1 checks, 1 failed").arg(module));
 }
 
 void tst_conformanceProgram::shouldGoOnBehindACheckThat_data()
@@ -177,6 +242,8 @@ void tst_conformanceProgram::shouldRefuse_data()
     QTest::newRow("an unknown option") << QStringList{"--what"} << "what";
     QTest::newRow("a stray word") << QStringList{"what"} << "'what' is no option";
     QTest::newRow("no time") << QStringList{"--host", BROKEN_HOST, "--timeout", "0"} << "timeout";
+    QTest::newRow("more than a day")
+        << QStringList{"--host", BROKEN_HOST, "--timeout", "86401"} << "timeout";
     QTest::newRow("no such file") << QStringList{"--host", "/no/such.so"}
                                   << "there is no file /no/such.so";
     QTest::newRow("no library") << QStringList{"--host", DOCUMENT} << "CONFORMANCE.md";
@@ -184,6 +251,10 @@ void tst_conformanceProgram::shouldRefuse_data()
                               << "does not export initPlugin";
     QTest::newRow("no such check")
         << QStringList{"--host", BROKEN_HOST, "--only", "nothing"} << "no check has such a name";
+    QTest::newRow("no place for the report")
+        << QStringList{"--host",      BROKEN_HOST, "--only",
+                       "nodes.kinds", "--report",  "/no/such/report.json"}
+        << "/no/such/report.json: ";
 }
 
 void tst_conformanceProgram::shouldRefuse()
@@ -192,6 +263,7 @@ void tst_conformanceProgram::shouldRefuse()
     QFETCH(QString, reason);
     const Run seen = run(arguments);
     QCOMPARE(seen.code, 2);
+    QCOMPARE(seen.lines, QStringList());
     QVERIFY2(seen.error.contains(reason), qPrintable(seen.error));
 }
 
@@ -202,18 +274,21 @@ void tst_conformanceProgram::shouldReportAsJson()
                      "reverse:nameChanged")
                  .code,
              1);
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QJsonObject report = QJsonDocument::fromJson(file.readAll()).object();
+    const QJsonObject report = reportIn(path);
     QCOMPARE(report.value("kind").toString(), QString("host"));
+    QCOMPARE(report.value("file").toString(), QString(BROKEN_HOST));
     QCOMPARE(report.value("checked").toInt(), 2);
     QCOMPARE(report.value("failed").toInt(), 1);
     const QJsonArray checks = report.value("checks").toArray();
     QCOMPARE(checks.at(0).toObject().value("outcome").toString(), QString("ok"));
     QCOMPARE(checks.at(1).toObject().value("name").toString(), QString("name.everyKind"));
     QCOMPARE(checks.at(1).toObject().value("outcome").toString(), QString("failed"));
-    QCOMPARE(checks.at(1).toObject().value("seen").toString(),
-             QString("(\"nameChanged s b g a\")"));
+    const QJsonObject failed = checks.at(1).toObject();
+    QVERIFY(failed.value("rule").toString().startsWith("Overlays, groups and switches"));
+    QVERIFY(failed.value("milliseconds").isDouble());
+    QCOMPARE(failed.value("what").toString(), QString("signals"));
+    QCOMPARE(failed.value("expected").toString(), QString("(\"nameChanged a g b s\")"));
+    QCOMPARE(failed.value("seen").toString(), QString("(\"nameChanged s b g a\")"));
 }
 
 void tst_conformanceProgram::shouldReportAsXml()
