@@ -10,6 +10,7 @@ import tempfile
 import unittest
 
 import arrows
+import chart
 import duplicates
 import interface
 import pictures
@@ -417,6 +418,45 @@ class Snippets(Tree):
         self.assertEqual(snippets.faults(self.root), [])
         text = (self.root / "docs/a.md").read_text(encoding="utf-8")
         self.assertEqual(text, self.QUOTED.replace("int b", "int d"))
+
+
+class Chart(Tree):
+    MAP = """`host/` has `kxA`, `kxA.h`, `kxA::go()` and `_b`, `_b.cpp` of `libkxA.so`; `dev` is a preset.
+`./dev check all` tells, `g2(a3 b4-)` and `build/<preset>` are examples.
+
+    SIGNAL(outline())
+"""
+
+    def check(self, text):
+        self.add("host/kxA.h", "class kxA { void go(); };\n")
+        self.add("host/kxA_b.cpp", "")
+        self.add("dev", "check all\n")
+        self.add(chart.PRESETS, '{"configurePresets": [{"name": "base", "hidden": true}, {"name": "dev"}]}')
+        self.add(chart.MAP, text)
+        return chart.faults(self.root)
+
+    def test_should_accept_what_is_there(self):
+        self.assertEqual(self.check(self.MAP), [])
+
+    def test_should_find_what_is_not_there(self):
+        for old, new in (("`host/`", "`guest/`"), ("`kxA`", "`kxB`"), ("`kxA.h`", "`kxB.h`"),
+                         ("`kxA.h`", "`kxA.go`"), ("`kxA::go()`", "`kxA::stop()`"), ("`_b`", "`_c`"),
+                         ("`_b.cpp`", "`_c.cpp`"), ("`libkxA.so`", "`libkxB.so`"),
+                         ("`./dev check all`", "`./dev check none`")):
+            with self.subTest(new=new):
+                self.assertIn(f"there is no {new.strip('`')}",
+                              " ".join(self.check(self.MAP.replace(old, new) + "host")))
+
+    def test_should_miss_a_folder_of_sources_and_a_preset(self):
+        self.add("guest/a.cpp", "")
+        self.assertEqual(self.check(self.MAP.replace("`dev`", "it")),
+                         [f"{chart.MAP}: nothing about guest/", f"{chart.MAP}: nothing about the preset dev"])
+
+    def test_should_find_more_than_two_pages(self):
+        rest = chart.LONGEST - self.MAP.count("\n")
+        self.assertEqual(self.check(self.MAP + "\n" * rest), [])
+        self.assertEqual(len(self.check(self.MAP + "\n" * (rest + 1))), 1)
+        self.assertEqual(len(self.check(self.MAP + "\n" * (rest - 1) + "a" * (chart.WIDTH + 1))), 1)
 
 
 class Pictures(Tree):
