@@ -72,6 +72,12 @@ ModuleChecks refusedChecks() // NOLINT(readability-function-size)
              bench.expectSettled();
              expectEqual("selection", bench.selected(), Nodes({2}));
          }},
+    };
+}
+
+ModuleChecks rowChecks()
+{
+    return {
         {"foreign.staysOpen", "Groups that come with a drop from elsewhere stay open or closed.",
          [](ModuleBench &bench) {
              bench.openShown("g2(h3(a4) k5(b6)) m7(c8)");
@@ -124,7 +130,7 @@ ModuleChecks refusedChecks() // NOLINT(readability-function-size)
 
 ModuleChecks foreignChecks()
 {
-    return joined<ModuleBench>({tableChecks(), refusedChecks()});
+    return joined<ModuleBench>({tableChecks(), refusedChecks(), rowChecks()});
 }
 
 } // namespace conformance
