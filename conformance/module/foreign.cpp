@@ -48,8 +48,7 @@ ModuleChecks tableChecks()
     return checks;
 }
 
-// One table, long as it has an entry for each check.
-ModuleChecks refusedChecks() // NOLINT(readability-function-size)
+ModuleChecks refusedChecks()
 {
     return {
         {"foreign.copy", "Nodes from elsewhere that are to be copied are refused.",
