@@ -19,7 +19,8 @@ import sources
 
 LENGTH = 6
 SAYING = 3
-CODE = re.compile(r"\.(?:cpp|h|py|js|frag|vert)$|(?:^|/)(?:dev|with-display)$")
+CODE = re.compile(r"\.(?:cpp|h|py|js|sh|cmake|frag|vert)$"
+                  r"|(?:^|/)(?:CMakeLists\.txt|dev|with-display|\.ci/run)$")
 COMMENT = re.compile(r"//|/\*|\*(?:\s|/|$)|#")
 MACRO = re.compile(r"#\s*(?:define|if|ifdef|ifndef|else|endif)\b")
 FRAME = re.compile(r"\W*$|(?:public|protected|private)(?: Q_SLOTS)?:$|Q_SIGNALS:$|Q_OBJECT$"

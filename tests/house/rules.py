@@ -19,12 +19,18 @@ LICENSE_LINES = ("SPDX-FileCopyrightText: the Overlay Editor authors",
                  "SPDX-License-Identifier: MIT")
 LICENSED = (".cpp", ".h", ".py", ".sh", ".cmake", "CMakeLists.txt", "/with-display", "dev",
             ".ci/run")
-SOURCE = re.compile(r"\.(?:cpp|h|py|js|sh|ui|cmake|frag|vert)$|(?:^|/)(?:CMakeLists\.txt|dev|with-display)$")
+SOURCE = re.compile(r"\.(?:cpp|h|py|js|sh|ui|cmake|frag|vert)$"
+                    r"|(?:^|/)(?:CMakeLists\.txt|dev|with-display|\.ci/run)$")
 LONGEST_SOURCE = 500
 LONGEST_FUNCTION = 60
 # The mark that clang-tidy understands too, on the line of the name.
 TABLE = "// NOLINT(readability-function-size)"
-TYPE = re.compile(r"(?:template\b.*)?(?:class|struct|union|enum|namespace)\b|extern \"C\"")
+TYPE = re.compile(r"(?:template\b.*)?(?:class|struct|union|enum|namespace)\b|extern \"C\"$")
+# A function of JavaScript, of a shell script or of CMake, and its body. One in brackets around a whole
+# file of JavaScript is what a namespace is elsewhere.
+PLAIN = re.compile(r"^( *)(?:(?!\()[^\n]*\bfunction\b[^\n]*\)|\w+\(\)) \{\n(.*?)^\1\}"
+                   r"|^(?:function|macro)\([^)]*\)\n(.*?)^end(?:function|macro)\(",
+                   re.MULTILINE | re.DOTALL)
 # Written in pieces, so that this file does not break its own rule.
 UNFINISHED = re.compile(r"\b(?:" + "|".join(("TO" "DO", "FIX" "ME", "X" "XX", "HA" "CK")) + r")\b")
 CLASS = re.compile(r"^(?:class|struct) (?:\w+ )*\w+(?: final)?(?: *:[^:].*)?(?: *\{.*)?$")
@@ -84,6 +90,11 @@ def brief(name, text):
                 lines = node.end_lineno - node.lineno
                 if lines > LONGEST_FUNCTION:
                     yield node.lineno, f"a function of {lines} lines"
+    elif SOURCE.search(name):
+        for found in PLAIN.finditer(text):
+            lines = (found.group(2) or found.group(3) or "").count("\n")
+            if lines > LONGEST_FUNCTION:
+                yield text.count("\n", 0, found.start()) + 1, f"a function of {lines} lines"
 
 
 def is_table(body):
