@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: the Overlay Editor authors
 // SPDX-License-Identifier: MIT
 
+#include "host/kxKernelServiceFactory.h"
 #include "kit/RestlessHost.h"
+#include "kit/output.h"
 #include "overlayeditor/model/kxDropTrace.h"
 #include "tests/overlayeditor/EditorTest.h"
 
@@ -23,6 +25,8 @@ class tst_kxOverlayEditor_restlessHost : public EditorTest
 private Q_SLOTS:
     void shouldFollowChangesInsideItsWork_data();
     void shouldFollowChangesInsideItsWork();
+    void shouldGoOnWhenTheServiceGoesInsideItsWork_data();
+    void shouldGoOnWhenTheServiceGoesInsideItsWork();
     void shouldGoOnWhenEachAnswerResetsTheTree();
     void shouldFollowAllThatIsAnnouncedInOneMoment();
 
@@ -152,6 +156,39 @@ void tst_kxOverlayEditor_restlessHost::shouldFollowChangesInsideItsWork()
         ++moment;
     }
     QVERIFY(moment > 1);
+}
+
+void tst_kxOverlayEditor_restlessHost::shouldGoOnWhenTheServiceGoesInsideItsWork_data()
+{
+    QTest::addColumn<int>("action");
+    const QVector<Named> works = actions();
+    for (int action = 0; action < works.size(); ++action)
+        QTest::newRow(works.at(action).name) << action;
+}
+
+/// When it is back, the tree follows it as before.
+void tst_kxOverlayEditor_restlessHost::shouldGoOnWhenTheServiceGoesInsideItsWork()
+{
+    QFETCH(int, action);
+    openEditor();
+    const QAbstractItemModelTester tester(&model(),
+                                          QAbstractItemModelTester::FailureReportingMode::Warning);
+    auto *registry = kxKernelServiceFactory::the();
+    RestlessHost host(&service(), &tree());
+    const std::function<void()> work = actions().at(action).run;
+    const auto leave = [registry] { registry->unregisterService<kxOverlayService>(); };
+    bool isGone = true;
+    for (int moment = 1; isGone; ++moment) {
+        startOver();
+        output::errorsOf([&] {
+            isGone = host.run(work, leave, moment);
+            QCoreApplication::sendPostedEvents();
+        });
+        QVERIFY(isGone || moment > 1);
+        registry->registerService<kxOverlayService>(&service());
+        Q_EMIT service().modelReset();
+        KX_COMPARE_TREE(model(), service());
+    }
 }
 
 void tst_kxOverlayEditor_restlessHost::shouldGoOnWhenEachAnswerResetsTheTree()
