@@ -3,6 +3,10 @@
 
 #include "conformance/module/moduleChecks.h"
 
+#include <QLineEdit>
+
+#include <thread>
+
 namespace conformance {
 
 namespace {
@@ -81,12 +85,16 @@ ModuleChecks wiringChecks()
              {"wiring.queued", "Signals from another thread arrive through the event loop.",
               [](ModuleBench &bench) {
                   bench.open("a2 b3");
+                  bench.select({3});
                   bench.node(3).name = "x3";
-                  QMetaObject::invokeMethod(
-                      &bench.service(), [&bench] { Q_EMIT bench.service().nameChanged({3}); },
-                      Qt::QueuedConnection);
+                  const QStringList calls = bench.callsOf([&bench] {
+                      std::thread([&bench] { Q_EMIT bench.service().nameChanged({3}); }).join();
+                  });
+                  expectEqual("calls on the other thread", calls, QStringList());
+                  expectEqual("tree", bench.shown(), QString("a2 b3"));
                   QCoreApplication::processEvents();
                   bench.expectTree();
+                  expectEqual("name", bench.form<QLineEdit>("_overlay_name").text(), QString("x3"));
                   expect("lists of nodes are a type that can be queued",
                          QMetaType::type("QRPC::NodeList") != QMetaType::UnknownType);
                   expect("nodes are a type that can be queued",
