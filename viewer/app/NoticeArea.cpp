@@ -75,7 +75,7 @@ Notice::Notice(Severity severity, const QString &text, QWidget *parent)
     , m_label(makeLabel(text, this))
     , m_button(makeCloseButton(this))
 {
-    setAccessibleName(text);
+    setText(text);
     connect(m_button, &QToolButton::clicked, this, &Notice::dismissed);
     connect(&m_reading, &QTimer::timeout, this, [this] {
         // Nobody reads in a window behind others, and what the mouse is on is still being read.
@@ -89,6 +89,12 @@ Notice::Notice(Severity severity, const QString &text, QWidget *parent)
 QString Notice::text() const
 {
     return m_label->text();
+}
+
+void Notice::setText(const QString &text)
+{
+    m_label->setText(text);
+    setAccessibleName(text);
 }
 
 int Notice::textWidth(int width) const
@@ -162,6 +168,16 @@ void NoticeArea::remove(const QString &text)
     const int at = texts().indexOf(text);
     if (at >= 0)
         dismiss(m_notices.at(at));
+}
+
+void NoticeArea::replace(const QString &text, const QString &other)
+{
+    const int at = texts().indexOf(text);
+    if (at < 0)
+        return;
+    m_notices.at(at)->setText(other);
+    place();
+    emit dismissed(text);
 }
 
 bool NoticeArea::dismissNewest()

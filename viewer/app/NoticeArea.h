@@ -25,6 +25,7 @@ public:
     Notice(Severity severity, const QString &text, QWidget *parent = nullptr);
 
     QString text() const;
+    void setText(const QString &text);
     Severity severity() const { return m_severity; }
 
     int heightForWidth(int width) const override;
@@ -62,6 +63,9 @@ public:
     /// Takes the message with this text away, where there is one.
     void remove(const QString &text);
 
+    /// Has the message with this text, where there is one, say something else.
+    void replace(const QString &text, const QString &other);
+
     /// Takes the newest message away. False when there is none.
     bool dismissNewest();
 
@@ -75,7 +79,7 @@ public:
     void place();
 
 Q_SIGNALS:
-    /// A message was taken away.
+    /// A text was taken away, with its message or for another one.
     void dismissed(const QString &text);
 
 private:

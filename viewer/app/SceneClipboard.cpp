@@ -6,7 +6,6 @@
 #include "viewer/app/SceneDocument.h"
 #include "viewer/scene/NodeLists.h"
 #include "viewer/scene/SceneCopy.h"
-#include "viewer/scene/SceneReader.h"
 #include "viewer/scene/SceneWriter.h"
 
 #include <QApplication>
@@ -112,9 +111,10 @@ void SceneClipboard::paste(const NodeList &selected)
     }
     const Place place = placeFor(selected, text);
     m_service->insertScene(*reading.scene, place.parent, place.row);
-    const QStringList warnings = reading.warnings + reading.missingImages;
-    if (!warnings.isEmpty())
-        emit reported(Severity::Warning, SceneDocument::summary(warnings));
+    if (!reading.warnings.isEmpty())
+        emit reported(Severity::Warning, SceneDocument::summary(reading.warnings));
+    if (!reading.missingImages.isEmpty())
+        emit imagesMissing(reading.missingImages);
 }
 
 SceneClipboard::Place SceneClipboard::placeFor(const NodeList &selected,

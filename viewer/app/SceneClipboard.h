@@ -5,12 +5,11 @@
 
 #include "viewer/app/NoticeArea.h"
 #include "viewer/scene/OverlayService.h"
+#include "viewer/scene/SceneReader.h"
 
 #include <QObject>
 
 namespace viewer {
-
-struct SceneReading;
 
 /// Copies nodes with all that lies in them to the clipboard and pastes them from there, as the text
 /// of a scene file with absolute image paths, so that they can be read, sent and pasted into another
@@ -46,6 +45,9 @@ public:
 
 Q_SIGNALS:
     void reported(viewer::Severity severity, const QString &text);
+
+    /// Overlays were pasted, but not all their image files are there.
+    void imagesMissing(const QVector<viewer::MissingImage> &images);
 
 private:
     QByteArray textOf(const QRPC::NodeList &nodes, QStringList *warnings) const;

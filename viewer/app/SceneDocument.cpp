@@ -3,7 +3,6 @@
 
 #include "viewer/app/SceneDocument.h"
 
-#include "viewer/scene/SceneReader.h"
 #include "viewer/scene/SceneWriter.h"
 
 #include <QFileInfo>
@@ -102,9 +101,10 @@ bool SceneDocument::load(const QString &file)
     m_state = state;
     remember(path);
     emit opened(path);
-    const QStringList warnings = reading.warnings + reading.missingImages;
-    if (!warnings.isEmpty())
-        emit reported(Severity::Warning, summary(warnings));
+    if (!reading.warnings.isEmpty())
+        emit reported(Severity::Warning, summary(reading.warnings));
+    if (!reading.missingImages.isEmpty())
+        emit imagesMissing(reading.missingImages);
     return true;
 }
 
@@ -152,13 +152,13 @@ bool SceneDocument::mayWrite()
 bool SceneDocument::write(const QString &file)
 {
     const SceneWriting writing = SceneWriter::write(m_service->scene(), file);
+    const QString fault = std::exchange(m_fault, writing.error);
+    if (!fault.isEmpty() && fault != m_fault)
+        emit overcome(fault);
     if (!writing.isWritten()) {
-        m_fault = writing.error;
         emit reported(Severity::Error, m_fault);
         return false;
     }
-    if (!m_fault.isEmpty())
-        emit overcome(std::exchange(m_fault, {}));
     m_service->history().setSaved();
     setPath(file);
     m_state = stateOf(file);

@@ -6,6 +6,7 @@
 #include "viewer/app/FileQuestions.h"
 #include "viewer/app/NoticeArea.h"
 #include "viewer/scene/OverlayService.h"
+#include "viewer/scene/SceneReader.h"
 
 #include <QDateTime>
 #include <QObject>
@@ -85,6 +86,9 @@ Q_SIGNALS:
 
     void reported(viewer::Severity severity, const QString &text);
 
+    /// A scene was read, but not all its image files are there.
+    void imagesMissing(const QVector<viewer::MissingImage> &images);
+
     /// What was reported with this text is over.
     void overcome(const QString &text);
 
@@ -108,7 +112,7 @@ private:
     QSettings *m_settings;
     QString m_path;
     FileState m_state; // of the file when it was read or written here
-    QString m_fault;   // for which the scene could not be saved; empty once it could
+    QString m_fault;   // for which the scene could not be saved last; empty once it could
 };
 
 } // namespace viewer

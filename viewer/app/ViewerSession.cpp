@@ -53,6 +53,7 @@ ViewerSession::ViewerSession(const CommandLine &line, QSettings *settings,
     fillEditMenu();
     m_window->addHistory(new HistoryPanel(overlays(), m_window.get()));
     connectDocument();
+    connectMissingImages();
     connectRecording();
     if (m_settings)
         keepJournal();
@@ -143,6 +144,18 @@ void ViewerSession::connectDocument()
     connect(&m_document, &SceneDocument::reported, this, &ViewerSession::report);
     connect(overlays()->history().stack(), &QUndoStack::cleanChanged, window,
             [window](bool clean) { window->setWindowModified(!clean); });
+}
+
+void ViewerSession::connectMissingImages()
+{
+    const NoticeArea *notices = m_window->viewArea()->notices();
+    connect(&m_document, &SceneDocument::imagesMissing, &m_missingImages, &MissingImages::report);
+    connect(&m_clipboard, &SceneClipboard::imagesMissing, &m_missingImages, &MissingImages::report);
+    connect(&m_document, &SceneDocument::aboutToReplace, &m_missingImages,
+            &MissingImages::forgetAll);
+    connect(&m_missingImages, &MissingImages::reported, this, &ViewerSession::report);
+    connect(&m_missingImages, &MissingImages::reduced, notices, &NoticeArea::replace);
+    connect(&m_missingImages, &MissingImages::overcome, notices, &NoticeArea::remove);
 }
 
 void ViewerSession::connectRecording()

@@ -7,6 +7,7 @@
 #include "viewer/app/EditFocus.h"
 #include "viewer/app/HostServices.h"
 #include "viewer/app/MainWindow.h"
+#include "viewer/app/MissingImages.h"
 #include "viewer/app/SceneClipboard.h"
 #include "viewer/app/SceneDocument.h"
 #include "viewer/render/ImageCache.h"
@@ -59,6 +60,7 @@ private:
     void showOverlays();
     void fillEditMenu();
     void connectDocument();
+    void connectMissingImages();
     void connectRecording();
     void keepJournal();
     void offerLostWork();
@@ -77,6 +79,7 @@ private:
     EditFocus m_focus;
     SceneClipboard m_clipboard{overlays()};
     SceneDocument m_document{overlays(), m_questions.get(), m_settings};
+    MissingImages m_missingImages{overlays()};
     ScriptActions *m_scripts = nullptr;
     QThreadPool m_journalWriter;
     std::unique_ptr<Journal> m_journal; // none without settings

@@ -35,7 +35,7 @@ public:
 
     Scene scene;
     QStringList warnings; // each begins with its place
-    QStringList missingImages;
+    QVector<MissingImage> missingImages;
 
 private:
     /// One level that is being read: the list of nodes, the next one, and where they go.
@@ -50,7 +50,7 @@ private:
     void readNode(const Json &object, NodeId parent);
     void readOverlay(JsonRecord &record, Overlay *overlay);
     QString readImagePath(JsonRecord &record);
-    void warn(QStringList *list, const QString &text) const;
+    QString atPlace(const QString &text) const;
 
     QDir m_folder;
     std::vector<Level> m_levels;
@@ -134,9 +134,9 @@ void SceneBuilder::readNode(const Json &object, NodeId parent)
     const QString name = node.name;
     const NodeId id = scene.add(std::move(node));
     if (!scene.append(parent, id).isEmpty())
-        warn(&warnings,
-             tr("\"%1\" is disabled, because its switch has another enabled child before it")
-                 .arg(name));
+        warnings.append(
+            atPlace(tr("\"%1\" is disabled, because its switch has another enabled child before it")
+                        .arg(name)));
     if (children)
         m_levels.push_back({children, 0, id});
 }
@@ -165,15 +165,15 @@ QString SceneBuilder::readImagePath(JsonRecord &record)
     const QString path = QDir::cleanPath(m_folder.absoluteFilePath(written));
     if (!m_missingFiles.contains(path) && !QFileInfo(path).isFile()) {
         m_missingFiles.insert(path);
-        warn(&missingImages,
-             tr("the image file %1 is missing").arg(QDir::toNativeSeparators(path)));
+        const QString shown = QDir::toNativeSeparators(path);
+        missingImages.append({path, atPlace(tr("the image file %1 is missing").arg(shown))});
     }
     return path;
 }
 
-void SceneBuilder::warn(QStringList *list, const QString &text) const
+QString SceneBuilder::atPlace(const QString &text) const
 {
-    list->append(place() + QLatin1String(": ") + text);
+    return place() + QLatin1String(": ") + text;
 }
 
 /// Bytes are counted from 1, as editors and the parser do.
@@ -259,8 +259,8 @@ SceneReading SceneReader::parse(const QByteArray &content, const QString &path,
     const QString file = QDir::toNativeSeparators(name) + QLatin1String(": ");
     for (const QString &warning : qAsConst(builder.warnings))
         reading.warnings.append(file + warning);
-    for (const QString &warning : qAsConst(builder.missingImages))
-        reading.missingImages.append(file + warning);
+    for (const MissingImage &image : qAsConst(builder.missingImages))
+        reading.missingImages.append({image.path, file + image.text});
     return reading;
 }
 

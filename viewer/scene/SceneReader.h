@@ -7,10 +7,18 @@
 
 #include <QCoreApplication>
 #include <QStringList>
+#include <QVector>
 
 #include <optional>
 
 namespace viewer {
+
+/// An image file that is not there.
+struct MissingImage
+{
+    QString path; ///< absolute
+    QString text; ///< the warning
+};
 
 /// What came of reading a scene file: either a scene and perhaps warnings, or the error. All texts
 /// are sentences for the user that name the file and the place.
@@ -19,7 +27,7 @@ struct SceneReading
     std::optional<Scene> scene;
     QString error;
     QStringList warnings;
-    QStringList missingImages; ///< warnings of files that are not there
+    QVector<MissingImage> missingImages; ///< each once
 };
 
 /// Reads scene files. It holds nothing and touches no open scene: the caller hands the scene on to

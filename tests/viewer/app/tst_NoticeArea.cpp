@@ -19,6 +19,7 @@ class tst_NoticeArea : public KxTest
 private Q_SLOTS:
     void shouldShowNoticesUntilTheyAreDismissed();
     void shouldForgetInTheStatusBarWhatWasDismissed();
+    void shouldSayWhatIsLeftOfAMessage();
     void shouldTakeAwayWhatAsksForNothing();
     void shouldKeepTheNewestNotices();
 
@@ -62,6 +63,26 @@ void tst_NoticeArea::shouldForgetInTheStatusBarWhatWasDismissed()
     QVERIFY(window.viewArea()->notices()->dismissNewest());
     QCOMPARE(window.statusBar()->currentMessage(), QString("Saved"));
     QVERIFY(!window.viewArea()->notices()->dismissNewest());
+}
+
+void tst_NoticeArea::shouldSayWhatIsLeftOfAMessage()
+{
+    Window window;
+    window.setVisible(true);
+    NoticeArea *area = window.viewArea()->notices();
+    window.notify(Severity::Error, "other");
+    window.notify(Severity::Warning, "first\nsecond\nthird");
+    const int height = area->height();
+    area->replace("first\nsecond\nthird", "second");
+    QCOMPARE(window.notices(), QStringList({"second", "other"}));
+    QCOMPARE(area->findChildren<Notice *>().constLast()->accessibleName(), QString("second"));
+    QVERIFY(area->height() < height);
+    QCOMPARE(window.statusBar()->currentMessage(), QString()); // it names the first
+    area->replace("gone", "third");
+    QCOMPARE(window.notices(), QStringList({"second", "other"}));
+    area->remove("second");
+    area->remove("gone");
+    QCOMPARE(window.notices(), QStringList("other"));
 }
 
 void tst_NoticeArea::shouldTakeAwayWhatAsksForNothing()

@@ -271,11 +271,12 @@ void tst_SceneClipboard::shouldTellWhatIsMissing()
     service().setImage(ids("a"), "/no/such/picture.png");
     SceneClipboard clipboard(&service());
     QVERIFY(clipboard.copy(ids("a")));
-    QSignalSpy reports(&clipboard, &SceneClipboard::reported);
+    QVector<viewer::MissingImage> images;
+    connect(&clipboard, &SceneClipboard::imagesMissing, this,
+            [told = &images](const QVector<viewer::MissingImage> &missing) { *told += missing; });
     clipboard.paste({});
-    QCOMPARE(reports.size(), 1);
-    QCOMPARE(reports.first().at(0).value<Severity>(), Severity::Warning);
-    QVERIFY(reports.first().at(1).toString().contains("/no/such/picture.png"));
+    QCOMPARE(images.size(), 1);
+    QCOMPARE(images.first().path, QString("/no/such/picture.png"));
 }
 
 void tst_SceneClipboard::shouldNotCopyWhatCouldNotBePasted()

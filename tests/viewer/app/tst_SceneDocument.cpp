@@ -44,6 +44,7 @@ private Q_SLOTS:
     void shouldTakeImagesFromTheFoldersOfItsFiles();
     void shouldTellWhatBecomesOfTheScene();
     void shouldTellWhatCouldNotBeSavedAsItIs();
+    void shouldTakeBackThatItCouldNotSave();
     void shouldBeginWhereTheLastSceneWas();
     void shouldListRecentFiles();
     void shouldHaveAKeyForEachCommandOnEveryDesktop();
@@ -355,6 +356,24 @@ void tst_SceneDocument::shouldTellWhatCouldNotBeSavedAsItIs()
     QVERIFY(m_document->save());
     QCOMPARE(reports.count(), 1);
     QVERIFY(reports.first().at(1).toString().contains(m_service->getName(node)));
+}
+
+void tst_SceneDocument::shouldTakeBackThatItCouldNotSave()
+{
+    QStringList told; // and not taken back
+    connect(m_document.get(), &SceneDocument::reported, this,
+            [list = &told](Severity, const QString &text) { list->append(text); });
+    connect(m_document.get(), &SceneDocument::overcome, this,
+            [list = &told](const QString &text) { QVERIFY(list->removeOne(text)); });
+    for (const char *name : {"no/a.json", "none/b.json"}) {
+        m_answers->file = file(name);
+        QVERIFY(!m_document->saveAs());
+        QCOMPARE(told.size(), 1);
+        QVERIFY2(told.constFirst().contains(file(name)), qPrintable(told.constFirst()));
+    }
+    m_answers->file = file("c.json");
+    QVERIFY(m_document->saveAs());
+    QCOMPARE(told, QStringList());
 }
 
 void tst_SceneDocument::shouldBeginWhereTheLastSceneWas()

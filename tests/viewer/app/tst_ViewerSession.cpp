@@ -7,6 +7,8 @@
 #include "tests/viewer/app/OverlayPicture.h"
 #include "viewer/app/ModulePanels.h"
 
+#include <QAction>
+#include <QClipboard>
 #include <QDockWidget>
 #include <QLineEdit>
 #include <QPainter>
@@ -38,6 +40,8 @@ private Q_SLOTS:
     void shouldLeaveTheOpenSceneWhenAFileIsBad_data();
     void shouldLeaveTheOpenSceneWhenAFileIsBad();
     void shouldWarnOfMissingImages();
+    void shouldForgetImagesThatAreThereNow();
+    void shouldForgetMissingImagesOfAnotherScene();
     void shouldShortenManyWarnings();
     void shouldTakeOldNoticesAwayWhenTheUserOpensAScene();
     void shouldKeepTheLayoutForTheNextRun();
@@ -315,6 +319,37 @@ void tst_ViewerSession::shouldWarnOfMissingImages()
     QVERIFY(session.window()->windowTitle().startsWith("image.json"));
     QCOMPARE(notices(session).size(), 1);
     QVERIFY(notices(session).constFirst().contains("none.png"));
+}
+
+void tst_ViewerSession::shouldForgetImagesThatAreThereNow()
+{
+    const QByteArray hidden =
+        R"({"kind": "group", "enabled": false, "children": [)" + imageOverlay("colour.png") + "]}";
+    const QByteArray other = imageOverlay("other.png");
+    ViewerSession session(line({write("image.json", scene(hidden + ',' + other))}), nullptr);
+    session.start();
+    session.window()->notify(Severity::Error, "Another message.");
+    QCOMPARE(notices(session).constLast().count('\n'), 1);
+    QVERIFY(paintFile(Qt::red));
+    TRY_COMPARE(notices(session).constLast().count('\n'), 0);
+    QVERIFY(notices(session).constLast().contains("other.png"));
+    OverlayService *overlays = session.overlays();
+    overlays->deleteNodes({overlays->getChild(Scene::RootId, 1)});
+    TRY_COMPARE(notices(session), QStringList("Another message."));
+}
+
+void tst_ViewerSession::shouldForgetMissingImagesOfAnotherScene()
+{
+    ViewerSession session(line({write("image.json", scene(imageOverlay("none.png")))}), nullptr);
+    session.start();
+    QCOMPARE(notices(session).size(), 1);
+    QVERIFY(session.openScene(goodScene()));
+    QCOMPARE(notices(session), QStringList());
+    QApplication::clipboard()->setText(QString::fromUtf8(scene(imageOverlay("/none.png"))));
+    session.window()->findChild<QAction *>("paste")->trigger();
+    QCOMPARE(notices(session).size(), 1);
+    QVERIFY(session.openScene(goodScene()));
+    QCOMPARE(notices(session), QStringList());
 }
 
 void tst_ViewerSession::shouldShortenManyWarnings()

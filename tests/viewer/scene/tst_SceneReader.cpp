@@ -156,9 +156,11 @@ void tst_SceneReader::shouldWarnOnceOfAMissingImage()
                       {"kind": "overlay", "image": "no.png"}]})"),
         "/nowhere/scene.json");
     QVERIFY2(reading.scene.has_value(), qPrintable(reading.error));
-    QCOMPARE(reading.missingImages,
-             QStringList("/nowhere/scene.json: /overlays/0/children/0: the image "
-                         "file /nowhere/no.png is missing"));
+    QCOMPARE(reading.missingImages.size(), 1);
+    QCOMPARE(reading.missingImages.first().path, QString("/nowhere/no.png"));
+    QCOMPARE(reading.missingImages.first().text,
+             QString("/nowhere/scene.json: /overlays/0/children/0: the image "
+                     "file /nowhere/no.png is missing"));
 }
 
 void tst_SceneReader::shouldKeepTheFirstEnabledChildOfASwitch()
