@@ -20,7 +20,8 @@ public:
 
     /// The widget that becomes the parent, and so the owner, of every module window. Called by a
     /// module while it starts.
-    /// @return null leaves the module's window without an owner
+    /// @return the same one always; null, which leaves the module's window without an owner, is nothing
+    ///         that a host with a user interface gives
     virtual QWidget *getMainWindow() = 0;
 
     /// Makes a module's window known to the host, which lays it out and shows or hides it from

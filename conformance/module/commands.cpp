@@ -135,6 +135,7 @@ ModuleChecks effectChecks() // NOLINT(readability-function-size)
              bench.select({3, 5, 2});
              bench.call("deleteOverlays");
              bench.expectTree();
+             expectEqual("selection", bench.selected(), Nodes());
              bench.call("deleteOverlays");
              bench.expectTree();
          }},

@@ -144,9 +144,10 @@ ModuleChecks itemChecks() // NOLINT(readability-function-size)
          [](ModuleBench &bench) {
              bench.open("g2(a3-)");
              const std::unique_ptr<QStandardItem> clone(bench.item(3).clone());
-             for (const int role :
-                  {int(Qt::DisplayRole), int(Qt::CheckStateRole), idRole, activeRole})
+             for (const int role : {int(Qt::DisplayRole), int(Qt::CheckStateRole),
+                                    int(Qt::ForegroundRole), idRole, activeRole})
                  expectEqual("role", clone->data(role), bench.item(3).data(role));
+             expectEqual("icon", clone->icon().cacheKey(), bench.item(3).icon().cacheKey());
              expectEqual("flags", int(clone->flags()), int(bench.item(3).flags()));
              expectEqual("type", clone->type(), 1000);
          }},

@@ -215,6 +215,7 @@ ModuleChecks changeChecks() // NOLINT(readability-function-size)
          "A moved node that was selected and stays visible is still one row.",
          [](ModuleBench &bench) {
              bench.open("a2 g3()");
+             bench.select({2});
              bench.service().moveNodes({2}, 3, 0);
              bench.expectTree();
              bench.select({2});

@@ -200,7 +200,8 @@ ModuleChecks treeChecks() // NOLINT(readability-function-size)
              bench.service().moveNodes({2, 3}, 4, 0);
              bench.expectTree();
          }},
-        {"tree.moveKeepsRow", "A move keeps the living row: what was open stays so.",
+        {"tree.moveKeepsRow",
+         "A move takes the row itself along, and what lies in it, and makes no other.",
          [](ModuleBench &bench) {
              bench.open("g2(a3) h4()");
              const QStandardItem *before = &bench.item(2);

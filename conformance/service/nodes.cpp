@@ -60,6 +60,7 @@ HostChecks treeChecksOfHost() // NOLINT(readability-function-size)
              const QRPC::NodeId root = s.getRootNode();
              expect("it has an id", root != 0);
              expectEqual("parent", s.getParent(root), 0U);
+             expect("it is enabled", s.isEnabled(root));
              expect("it is active", s.isActive(root));
              expect("it is no overlay", !s.isOverlay(root));
              expect("it is no switch", !s.isSwitch(root));

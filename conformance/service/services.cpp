@@ -11,6 +11,7 @@
 #include <QIcon>
 #include <QMainWindow>
 #include <QPointer>
+#include <QRegularExpression>
 
 namespace conformance {
 
@@ -24,6 +25,14 @@ T &service(const char *name)
     return *found;
 }
 
+/// A window that the host was given.
+QPointer<QWidget> registered(kxMainWindowService *main, const QString &name)
+{
+    QPointer<QWidget> window = new QMainWindow(main->getMainWindow());
+    main->registerModule(name, "Scene", window, "Conformance_Help", QIcon(), name, 0);
+    return window;
+}
+
 bool isHeadless()
 {
     return service<kxControllerService>("kxControllerService is registered").isHeadless();
@@ -31,19 +40,23 @@ bool isHeadless()
 
 } // namespace
 
-HostChecks servicesChecks()
+// One table, long as it has an entry for each check.
+HostChecks servicesChecks() // NOLINT(readability-function-size)
 {
     return {
         {"services.base", "An object is registered under kxBaseService itself.",
          [](HostBench &) { service<kxBaseService>("kxBaseService is registered"); }},
         {"services.controller", "The controller service is registered and keeps to its answer.",
          [](HostBench &) { expectEqual("second answer", isHeadless(), isHeadless()); }},
-        {"services.fileIO", "The file service names image files in the form of file dialogs.",
+        {"services.fileIO",
+         "The file service names image files in the form of file dialogs, or restricts nothing.",
          [](HostBench &) {
-             const QString filter =
+             const QString all =
                  service<kxFileIOService>("kxFileIOService is registered").getImageFileFilter();
-             expect("the filter names a pattern", filter.contains(QLatin1String("*.")));
-             expect("the patterns stand in brackets", filter.contains('(') && filter.contains(')'));
+             static const QRegularExpression form(R"(\([^()]*\*[^()]*\)$)");
+             const QStringList filters = all.split(";;", Qt::SkipEmptyParts);
+             for (const QString &filter : filters)
+                 expectEqual("patterns in brackets", form.match(filter).hasMatch(), true);
          }},
         {"services.mainWindow", "With a user interface there is a main window.",
          [](HostBench &) {
@@ -58,14 +71,29 @@ HostChecks servicesChecks()
              if (isHeadless())
                  return;
              auto &main = service<kxMainWindowService>("kxMainWindowService is registered");
-             const QPointer<QWidget> window = new QMainWindow(main.getMainWindow());
-             main.registerModule("Conformance", "Scene", window, "Conformance_Help", QIcon(),
-                                 "Conformance", 0);
+             const QPointer<QWidget> window = registered(&main, "Conformance");
              expect("the window is alive", !window.isNull());
              window->show();
              expect("the window is alive after it was shown", !window.isNull());
              expect("the host's main window holds it",
                     main.getMainWindow()->isAncestorOf(window) || window->isWindow());
+         }},
+        {"services.registerTwice", "A name that is registered twice keeps its first window.",
+         [](HostBench &) {
+             if (isHeadless())
+                 return;
+             auto &main = service<kxMainWindowService>("kxMainWindowService is registered");
+             const QPointer<QWidget> first = registered(&main, "Conformance Twice");
+             const QWidget *place = first->parentWidget();
+             // How the host says so is its own affair.
+             const QtMessageHandler handler = qInstallMessageHandler(
+                 [](QtMsgType, const QMessageLogContext &, const QString &) {});
+             const QPointer<QWidget> second = registered(&main, "Conformance Twice");
+             qInstallMessageHandler(handler);
+             expect("the first is alive", !first.isNull());
+             expect("the first keeps its place", first->parentWidget() == place);
+             expect("the second is alive", !second.isNull());
+             expect("the second is not taken in", second->parentWidget() == main.getMainWindow());
          }},
         {"services.platform", "With a user interface the scale of the display is above 0.",
          [](HostBench &) {
