@@ -154,9 +154,16 @@ QString HostBench::stateOf(QRPC::NodeId node) const
 {
     QString text;
     QDebug(&text) << m_service->getParent(node) << m_service->getName(node)
-                  << m_service->isActive(node) << m_service->getOverlayType(node)
-                  << m_service->getText(node) << m_service->getFont(node)
-                  << m_service->getFontColor(node) << m_service->getBackgroundColor(node)
+                  << m_service->isActive(node);
+    return text + valuesOf(node);
+}
+
+QString HostBench::valuesOf(QRPC::NodeId node) const
+{
+    QString text;
+    QDebug(&text) << m_service->getOverlayType(node) << m_service->getText(node)
+                  << m_service->getFont(node) << m_service->getFontColor(node)
+                  << m_service->getBackgroundColor(node)
                   << m_service->getBackgroundTransparency(node) << m_service->getImage(node)
                   << m_service->getSizeType(node) << m_service->getSize(node)
                   << m_service->getPosition(node) << m_service->getOffset(node);

@@ -50,6 +50,9 @@ public:
     /// The scene on one line.
     QString dump() const;
 
+    /// All values of an overlay; the name is that of every node.
+    QString valuesOf(QRPC::NodeId node) const;
+
     /// The scene with all values of all nodes.
     QString state() const;
 

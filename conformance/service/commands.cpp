@@ -56,16 +56,21 @@ HostChecks copiedValueChecks()
          [](HostBench &bench) {
              bench.build("g(a)");
              kxOverlayService &s = bench.service();
-             s.setText(bench.ids("a"), "one");
-             s.setSize(bench.ids("a"), 7.5F);
-             s.setFontColor(bench.ids("a"), QColor(1, 2, 3));
-             s.setOffset(bench.ids("a"), QPointF(1, -2));
+             const QRPC::NodeList original = bench.ids("a");
+             s.setText(original, "one");
+             s.setFont(original, "No Such Family");
+             s.setFontColor(original, QColor(1, 2, 3));
+             s.setBackgroundColor(original, QColor(4, 5, 6));
+             s.setBackgroundTransparency(original, QColor(7, 8, 9));
+             s.setImage(original, "/no/such/x.png");
+             s.setOverlayType(original, 1);
+             s.setSizeType(original, 1);
+             s.setSize(original, 7.5F);
+             s.setPosition(original, QPointF(0.125, 1));
+             s.setOffset(original, QPointF(1, -2));
              s.duplicateNodes(bench.ids("g"));
              const QRPC::NodeId copy = s.getChild(s.getChild(s.getRootNode(), 1), 0);
-             expectEqual("text", s.getText(copy), QString("one"));
-             expectEqual("size", s.getSize(copy), 7.5F);
-             expectEqual("colour", s.getFontColor(copy), QColor(1, 2, 3));
-             expectEqual("offset", s.getOffset(copy), QPointF(1, -2));
+             expectEqual("values", bench.valuesOf(copy), bench.valuesOf(original.first()));
              s.setText({copy}, "two");
              expectEqual("text of the original", s.getText(bench.id("a")), QString("one"));
          }},

@@ -223,6 +223,9 @@ HostChecks oddValueChecks() // NOLINT(readability-function-size)
              s.setText(bench.ids("a"), "x");
              s.setText(bench.ids("a"), QString());
              expectEqual("text", s.getText(bench.id("a")), QString());
+             s.setFont(bench.ids("a"), "x");
+             s.setFont(bench.ids("a"), QString());
+             expectEqual("family", s.getFont(bench.id("a")), QString());
          }},
         {"name.everyKind",
          "Overlays, groups and switches can be renamed; one signal names them all.",
