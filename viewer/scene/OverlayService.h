@@ -161,8 +161,8 @@ private:
     // history
     Step stepOf(Operation operation, const QRPC::NodeList &nodes) const;
     void record(Operation operation, const QRPC::NodeList &nodes, SceneChange change);
-    void record(Operation operation, const QRPC::NodeList &named, SceneChange change,
-                const QRPC::NodeList &nodes);
+    void record(Operation operation, const QRPC::NodeList &nodes, SceneChange change,
+                const QRPC::NodeList &named);
     void recordAdded(Operation operation, const QRPC::NodeList &tops);
     void recordAdded(Operation operation, const QRPC::NodeList &tops, const QRPC::NodeList &named);
     void restore(SceneChange::Direction direction);

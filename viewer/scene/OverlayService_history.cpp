@@ -81,9 +81,9 @@ void OverlayService::record(Operation operation, const NodeList &nodes, SceneCha
     record(operation, nodes, std::move(change), nodes);
 }
 
-/// The step is called by other nodes than it was asked for.
-void OverlayService::record(Operation operation, const NodeList &named, SceneChange change,
-                            const NodeList &nodes)
+/// The step is called by other nodes than it was asked to change.
+void OverlayService::record(Operation operation, const NodeList &nodes, SceneChange change,
+                            const NodeList &named)
 {
     if (change.isEmpty())
         return;

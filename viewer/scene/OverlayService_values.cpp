@@ -31,7 +31,7 @@ NodeList OverlayService::change(Operation operation, Property property, const No
         changed.append(id);
     }
     // A gesture goes on with all of them, also where it meets a value that some have.
-    record(operation, changed, std::move(noted), known);
+    record(operation, known, std::move(noted), changed);
     return inTreeOrder(m_scene, changed);
 }
 
