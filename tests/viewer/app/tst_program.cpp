@@ -194,6 +194,7 @@ void tst_program::shouldLeaveItsWorkToTheNextRunWhenItIsEnded()
     const QTemporaryDir settings;
     QProcess program;
     startEditing(&program, settings.path());
+    QCOMPARE(program.state(), QProcess::Running); // to signal process 0 would end this one
     QCOMPARE(::kill(pid_t(program.processId()), signal), 0);
     QVERIFY(program.waitForFinished(60000));
     QCOMPARE(program.exitStatus(), QProcess::NormalExit);
@@ -211,6 +212,7 @@ void tst_program::shouldOutliveItsTerminalWhereItIsToldTo()
     QProcess program;
     startEditing(&program, settings.path());
     std::signal(SIGHUP, before);
+    QCOMPARE(program.state(), QProcess::Running);
     QFile status(QString("/proc/%1/status").arg(program.processId()));
     QVERIFY(status.open(QIODevice::ReadOnly));
     static const QRegularExpression mask("SigIgn:\\s*([0-9a-f]+)");
