@@ -3,6 +3,7 @@
 
 #include "conformance/module/moduleChecks.h"
 #include "host/QKXSlider.h"
+#include "host/QKXTextureControls.h"
 #include "kit/PanelProperty.h"
 #include "kit/widgets.h"
 
@@ -147,8 +148,10 @@ void stopsAtGroups(ModuleBench &bench, const PanelProperty &property)
     bench.select({2});
     put(bench, property, 2, 0);
     bench.tree().selectionModel()->select(bench.index(5), QItemSelectionModel::Select);
-    if (property.guard == Guard::None && !isType(property))
+    if (property.guard == Guard::None && !isType(property)) {
+        expect("the name differs", isMarked(bench, property.control));
         return;
+    }
     expectEqual("shown value", property.shown(bench.window()), QString(property.values[1]));
     if (isType(property))
         return;
@@ -310,9 +313,13 @@ ModuleChecks enablingChecks() // NOLINT(readability-function-size)
              openTwo(bench);
              bench.node(2).type = 1;
              bench.node(3).type = 2;
+             bench.node(2).image = "/no/first.png";
+             bench.select({2});
              bench.node(2).image = bench.node(3).image = "/no/common.png";
-             bench.select({2, 3});
+             bench.tree().selectionModel()->select(bench.index(3), QItemSelectionModel::Select);
              expect("the type is not marked", !isMarked(bench, "_text_radio_button"));
+             expectEqual("image", bench.form<QKXTextureControls>("_image_edit").getTexture(),
+                         QString("/no/first.png"));
          }},
     };
 }
