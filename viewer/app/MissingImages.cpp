@@ -18,7 +18,10 @@ namespace {
 QSet<QString> imagesOf(const Scene &scene)
 {
     QSet<QString> paths;
-    scene.forEach([&paths](const Node &node) { paths.insert(node.overlay.image); });
+    scene.forEach([&paths](const Node &node) {
+        if (!node.overlay.image.isEmpty())
+            paths.insert(node.overlay.image);
+    });
     return paths;
 }
 

@@ -48,8 +48,8 @@ private:
 };
 
 /// The stack of messages that floats over the top of the view. Nothing in it blocks the user: each
-/// message stays until it is dismissed, cleared, or pushed out by newer ones; one of no urgency goes by
-/// itself once it was there long enough to be read. Owned by the view area.
+/// message stays until it is dismissed, is true no more, or is pushed out by newer ones; one of no
+/// urgency goes by itself once it was there long enough to be read. Owned by the view area.
 class NoticeArea : public QWidget
 {
     Q_OBJECT
