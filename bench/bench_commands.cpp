@@ -8,8 +8,6 @@
 #include "bench/Sides.h"
 #include "kit/widgets.h"
 
-#include <QRegExp>
-
 #include <functional>
 #include <string>
 #include <vector>
@@ -32,28 +30,6 @@ void invert(Plain *plain)
     for (int row = 1; row < model->rowCount(); row += 2)
         others.append(QItemSelectionRange(model->index(row, 0)));
     plain->view->selectionModel()->select(others, QItemSelectionModel::ClearAndSelect);
-}
-
-void search(Editor *editor)
-{
-    QMetaObject::invokeMethod(&editor->editor, "searchChanged",
-                              Q_ARG(QString, QStringLiteral("de 1*5")));
-}
-
-/// A bare walk that matches each name once.
-void match(Plain *plain)
-{
-    const QRegExp pattern(QStringLiteral("de 1*5"), Qt::CaseSensitive, QRegExp::Wildcard);
-    int found = 0;
-    std::vector<const QStandardItem *> pending{plain->floor.model()->invisibleRootItem()};
-    while (!pending.empty()) {
-        const QStandardItem *item = pending.back();
-        pending.pop_back();
-        found += item->data(Qt::DisplayRole).toString().indexOf(pattern) >= 0 ? 1 : 0;
-        for (int row = 0; row < item->rowCount(); ++row)
-            pending.push_back(item->child(row));
-    }
-    benchmark::DoNotOptimize(found);
 }
 
 std::vector<Command> commands()
@@ -105,8 +81,6 @@ std::vector<Command> commands()
                  editor->call("createOverlay");
          },
          [](Plain *plain) { plain->floor.create(1000, plain->view.get()); }},
-        {"search, one key", "flat", {}, search, match},
-        {"search, one key", "groups of 20, expanded", {Shape::Groups, true}, search, match},
         {"invert the selection", "flat, half selected", half, slot("invertSelection"), invert},
     };
 }

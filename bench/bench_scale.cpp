@@ -13,6 +13,7 @@
 #include "overlayeditor/model/kxOverlayQtModel.h"
 
 #include <QMimeData>
+#include <QRegExp>
 
 #include <functional>
 #include <memory>
@@ -50,6 +51,28 @@ void undo(Side *side)
 Step<Editor> slot(const char *name)
 {
     return [name](Editor *editor) { editor->call(name); };
+}
+
+void search(Editor *editor)
+{
+    QMetaObject::invokeMethod(&editor->editor, "searchChanged",
+                              Q_ARG(QString, QStringLiteral("de 1*5")));
+}
+
+/// A bare walk that matches each name once.
+void match(Plain *plain)
+{
+    const QRegExp pattern(QStringLiteral("de 1*5"), Qt::CaseSensitive, QRegExp::Wildcard);
+    int found = 0;
+    std::vector<const QStandardItem *> pending{plain->floor.model()->invisibleRootItem()};
+    while (!pending.empty()) {
+        const QStandardItem *item = pending.back();
+        pending.pop_back();
+        found += item->data(Qt::DisplayRole).toString().indexOf(pattern) >= 0 ? 1 : 0;
+        for (int row = 0; row < item->rowCount(); ++row)
+            pending.push_back(item->child(row));
+    }
+    benchmark::DoNotOptimize(found);
 }
 
 void color(Editor *editor)
@@ -127,6 +150,7 @@ std::vector<Operation> valueOperations()
          }},
         {"full refresh", nothing<Editor>, [](Editor *editor) { editor->editor.updateAll(); },
          nothing<Plain>, [](Plain *plain) { questions::askAll(plain->tree.allNodes()); }},
+        {"search, one key", nothing<Editor>, search, nothing<Plain>, match},
         {"colour of all", nothing<Editor>, color, nothing<Plain>, colorPlain},
         {"undo of colour", color, undo<Editor>, colorPlain,
          [](Plain *plain) {
