@@ -206,6 +206,8 @@ void ViewerSession::offerLostWork()
         const bool isWanted = answer == FileQuestions::Answer::Save;
         if (isWanted) {
             m_document.setUnsavedScene(std::move(*reading.scene), work.path, work.time);
+            if (!reading.missingImages.isEmpty())
+                m_missingImages.report(reading.missingImages);
             if (!m_journal->flush())
                 return; // the old journal is the only copy
         }

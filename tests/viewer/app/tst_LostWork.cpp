@@ -57,6 +57,7 @@ private Q_SLOTS:
     void shouldTellThatWorkCannotBeKept();
     void shouldOfferLostWork_data();
     void shouldOfferLostWork();
+    void shouldTellOfMissingImagesInWhatWasRecovered();
     void shouldOfferTheLatestFirst_data();
     void shouldOfferTheLatestFirst();
     void shouldOfferNoWorkThatAnotherViewerOffers();
@@ -178,6 +179,19 @@ void tst_LostWork::shouldOfferLostWork()
     QCOMPARE(journals().contains("night.journal"), staysForLater);
     // What was recovered is still not saved.
     QCOMPARE(journals().size(), staysForLater || nodes > 0 ? 1 : 0);
+}
+
+void tst_LostWork::shouldTellOfMissingImagesInWhatWasRecovered()
+{
+    leave("night",
+          "/scenes/night.json\n"
+          R"({"format": "overlay-scene", "version": 1, "overlays": [)"
+          R"({"kind": "overlay", "type": "image", "image": "gone.png"}]})",
+          60);
+    start(Answer::Save);
+    QTRY_COMPARE(notices().size(), 1);
+    QVERIFY2(notices().constFirst().contains("/scenes/gone.png"),
+             qPrintable(notices().constFirst()));
 }
 
 void tst_LostWork::shouldOfferTheLatestFirst_data()
