@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "conformance/module/moduleChecks.h"
+#include "host/kxKernelServiceFactory.h"
 #include "kit/RestlessHost.h"
+#include "kit/output.h"
 
 namespace conformance {
 
@@ -19,8 +21,8 @@ void expectFollowed(ModuleBench &bench, const HostDeed &work, const HostDeed &de
 {
     RestlessHost host(&bench.service(), &bench.tree());
     startOver(bench);
-    for (int moment = 1;
-         host.run([&] { work.run(bench.service()); }, [&] { deed.run(bench.service()); }, moment);
+    int moment = 1;
+    for (; host.run([&] { work.run(bench.service()); }, [&] { deed.run(bench.service()); }, moment);
          ++moment) {
         bench.expectSettled();
         const QRPC::NodeList nodes = bench.selected();
@@ -28,6 +30,33 @@ void expectFollowed(ModuleBench &bench, const HostDeed &work, const HostDeed &de
             expect("what is selected is there", bench.service().has(node));
         startOver(bench);
     }
+    expect("the work has a moment for the change", moment > 1);
+}
+
+/// Commands, a refresh and announcements, while there is nobody to ask.
+void goOnWithoutTheService(ModuleBench &bench)
+{
+    bench.open("g2(a3) b4");
+    bench.select({3, 4});
+    auto *registry = kxKernelServiceFactory::the();
+    registry->unregisterService<kxOverlayService>();
+    bench.log().clear();
+    const QByteArray errors = output::errorsOf([&bench] {
+        for (const char *command : {"selectAll", "toggle", "duplicateOverlays", "createOverlay",
+                                    "deleteOverlays", "renameOverlay"})
+            bench.call(command);
+        bench.model().setData(bench.index(4), "typed", Qt::EditRole);
+        Q_EMIT bench.service().nameChanged({2, 3});
+        Q_EMIT bench.service().nodesAdded({5});
+        Q_EMIT bench.service().nodesMoved({3}, {1}, {0});
+    });
+    registry->registerService<kxOverlayService>(&bench.service());
+    expect("the look-ups are reported", errors.contains("couldn't find class"));
+    expectEqual("calls", bench.log().lines(), QStringList());
+    Q_EMIT bench.service().modelReset();
+    bench.expectSettled();
+    bench.service().setName({3}, "new");
+    bench.expectTree();
 }
 
 ModuleChecks workChecks()
@@ -86,6 +115,9 @@ ModuleChecks otherChecks()
              expect("the group is open", bench.tree().isExpanded(bench.index(2)));
              expectEqual("selection", bench.selected(), QRPC::NodeList({3}));
          }},
+        {"restless.withoutService",
+         "Where the service is gone all goes on, and follows it when it is back.",
+         goOnWithoutTheService},
         {"restless.twoInOneMoment", "All that is announced in one moment shows.",
          [](ModuleBench &bench) {
              bench.open("g2(a3 b4) c5");
