@@ -28,6 +28,8 @@ struct MoveCase
 const MoveCase s_cases[] = {
     {"onto", "A row of -1 means behind the last child.", "a g(b)", "a", "g", -1, "g(b a)",
      "a / g / b", "a"},
+    {"belowZero", "So does any other row below 0.", "a g(b)", "a", "g", -7, "g(b a)", "a / g / b",
+     "a"},
     {"up", "A node moves before the child at the row.", "a b c", "c", "root", 0, "c a b",
      "c / root / 0", "c"},
     {"down", "The row counts before anything is taken out.", "a b c d", "a", "root", 3, "b c a d",
