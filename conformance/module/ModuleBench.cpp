@@ -139,6 +139,14 @@ void ModuleBench::beforeNext(const QString &call, const std::function<void()> &d
     });
 }
 
+void ModuleBench::inTheNextCommand(const std::function<void()> &deed)
+{
+    service().setHook([this, deed](const QString &) {
+        service().setHook(nullptr);
+        deed();
+    });
+}
+
 QModelIndex ModuleBench::index(QRPC::NodeId id)
 {
     const QModelIndexList found =

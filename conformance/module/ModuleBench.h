@@ -85,6 +85,9 @@ public:
     /// begins with `call`.
     void beforeNext(const QString &call, const std::function<void()> &deed);
 
+    /// The same at the end of the next command or write.
+    void inTheNextCommand(const std::function<void()> &deed);
+
     /// How many times `action` has rows inserted into the tree.
     int insertionsOf(const std::function<void()> &action);
 

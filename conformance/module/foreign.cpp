@@ -104,10 +104,8 @@ ModuleChecks rowChecks()
         {"foreign.currentRow", "The keyboard goes on from the first of the rows that came.",
          [](ModuleBench &bench) {
              bench.openShown("g2(a3) m4()");
-             bench.service().setHook([&bench](const QString &) {
-                 bench.service().setHook(nullptr);
-                 bench.service().place(3, 2, 0); // it stays in its group
-             });
+             // It stays in its group.
+             bench.inTheNextCommand([&bench] { bench.service().place(3, 2, 0); });
              drop(bench, DropData().add(DropData::treeFormat(), DropData::records({3, 2})), 0,
                   DropCase::On);
              expectEqual("tree", bench.shown(), QString("m4() g2(a3)"));

@@ -64,15 +64,6 @@ ModuleChecks caseChecks()
     return checks;
 }
 
-/// Has the service do something of its own at the end of the next command, without a word.
-void inTheNextCommand(ModuleBench &bench, void (*action)(RecordingService &service))
-{
-    bench.service().setHook([&bench, action](const QString &) {
-        bench.service().setHook(nullptr);
-        action(bench.service());
-    });
-}
-
 /// What the service does while the button is down.
 struct Change
 {
@@ -184,8 +175,7 @@ ModuleChecks openChecks() // NOLINT(readability-function-size)
          "Where the service chooses the place, rows that were not dragged stay.",
          [](ModuleBench &bench) {
              bench.openShown("g2(a3) h4(b5) k6(c7) m8(d9)");
-             bench.service().setHook([&bench](const QString &) {
-                 bench.service().setHook(nullptr);
+             bench.inTheNextCommand([&bench] {
                  bench.service().place(6, 1, -1);
                  bench.service().place(8, 1, -1);
              });
@@ -219,7 +209,7 @@ ModuleChecks silentChecks()
          [](ModuleBench &bench) {
              bench.openShown("g2(a3) g4(b5) h6()");
              bench.select({2, 4});
-             inTheNextCommand(bench, [](RecordingService &service) { service.place(4, 2, -1); });
+             bench.inTheNextCommand([&bench] { bench.service().place(4, 2, -1); });
              drag(bench, 4, 6, Edge::On);
              bench.expectSettled();
              expectEqual("tree", bench.shown(), QString("h6(g2(a3 g4(b5)))"));
@@ -228,9 +218,9 @@ ModuleChecks silentChecks()
          [](ModuleBench &bench) {
              bench.openShown("g2(h3(a4)) b5");
              bench.select({5});
-             inTheNextCommand(bench, [](RecordingService &service) {
-                 service.place(3, 1, -1);
-                 service.place(2, 3, 0);
+             bench.inTheNextCommand([&bench] {
+                 bench.service().place(3, 1, -1);
+                 bench.service().place(2, 3, 0);
              });
              drag(bench, 5, 3, Edge::On);
              bench.expectSettled();
@@ -241,7 +231,7 @@ ModuleChecks silentChecks()
              bench.openShown("g2(a3 b4 c5) h6()");
              bench.select({3});
              const QPersistentModelIndex other(bench.index(4));
-             inTheNextCommand(bench, [](RecordingService &service) { service.erase({5}); });
+             bench.inTheNextCommand([&bench] { bench.service().erase({5}); });
              drag(bench, 3, 6, Edge::On);
              bench.expectSettled();
              expect("the other row is the same", QModelIndex(other) == bench.index(4));
@@ -251,7 +241,7 @@ ModuleChecks silentChecks()
              bench.openShown("g2(c3 b4 a5) h6()");
              bench.select({5});
              const QPersistentModelIndex other(bench.index(4));
-             inTheNextCommand(bench, [](RecordingService &service) { service.erase({3}); });
+             bench.inTheNextCommand([&bench] { bench.service().erase({3}); });
              drag(bench, 5, 6, Edge::On);
              bench.expectSettled();
              expect("the other row is the same", QModelIndex(other) == bench.index(4));
@@ -260,7 +250,7 @@ ModuleChecks silentChecks()
          [](ModuleBench &bench) {
              bench.openShown("g2(h3(a4)) k5() b6");
              bench.select({2, 6});
-             inTheNextCommand(bench, [](RecordingService &service) { service.erase({2, 6}); });
+             bench.inTheNextCommand([&bench] { bench.service().erase({2, 6}); });
              drag(bench, 6, 5, Edge::On);
              bench.expectSettled();
              expectEqual("selection", bench.selected(), Nodes());

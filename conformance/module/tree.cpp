@@ -329,16 +329,10 @@ ModuleChecks treeChecks() // NOLINT(readability-function-size)
         {"tree.resetInsideAnEdit", "A reset or removal inside an edit does no harm.",
          [](ModuleBench &bench) {
              bench.open("g2(a3) b4");
-             bench.service().setHook([&bench](const QString &) {
-                 bench.service().setHook(nullptr);
-                 Q_EMIT bench.service().modelReset();
-             });
+             bench.inTheNextCommand([&bench] { Q_EMIT bench.service().modelReset(); });
              bench.model().setData(bench.index(3), "x3", Qt::EditRole);
              bench.expectTree();
-             bench.service().setHook([&bench](const QString &) {
-                 bench.service().setHook(nullptr);
-                 bench.service().deleteNodes({2});
-             });
+             bench.inTheNextCommand([&bench] { bench.service().deleteNodes({2}); });
              bench.model().setData(bench.index(3), Qt::Unchecked, Qt::CheckStateRole);
              bench.expectTree();
          }},
